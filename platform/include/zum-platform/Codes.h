@@ -1,0 +1,40 @@
+#ifndef ZUM_PLATFORM_CODES_H
+#define ZUM_PLATFORM_CODES_H
+
+// Three ASCII letters packed into one word, the first in bits 23..16
+// (0x4B4F52 is KOR). A two-letter language code has a zero low byte.
+typedef unsigned int ECountryCode;
+typedef unsigned int ELanguageCode;
+
+// The platform's own small enumerations. Only the values the parser acts on
+// are named; every other value is the platform's and passes through as is.
+enum ECountry : int {
+    ECOUNTRY_NONE = 0,
+    ECOUNTRY_TURKEY = 22,
+    ECOUNTRY_CHINA = 29,
+};
+
+enum system_info_country_e : int {
+    SYSTEM_INFO_COUNTRY_INVALID = -1,
+    SYSTEM_INFO_COUNTRY_OTHERS = 78,
+};
+
+enum ELanguage : int {
+    ELANGUAGE_NONE = 0,
+    ELANGUAGE_OTHERS = 107,
+};
+
+constexpr unsigned int ZumPackCode(char a, char b, char c)
+{
+    return (static_cast<unsigned int>(static_cast<unsigned char>(a)) << 16) |
+           (static_cast<unsigned int>(static_cast<unsigned char>(b)) << 8) |
+           static_cast<unsigned int>(static_cast<unsigned char>(c));
+}
+
+// "KOR" -> 0x4B4F52; shorter strings leave the low bytes zero.
+constexpr unsigned int ZumPackCode(const char* s)
+{
+    return ZumPackCode(s[0], s[0] ? s[1] : 0, (s[0] && s[1]) ? s[2] : 0);
+}
+
+#endif

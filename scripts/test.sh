@@ -1,0 +1,36 @@
+#!/usr/bin/env bash
+# Builds and runs every test: the GCC build, then the clang build with
+# AddressSanitizer and UndefinedBehaviorSanitizer, which reruns the suite and
+# gives each libFuzzer target a short pass.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+bash scripts/install-deps.sh
+
+jobs=$(nproc)
+fuzz_seconds=${ZUM_FUZZ_SECONDS:-15}
+
+echo "== build and test (gcc)"
+cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DZUM_BUILD_BENCH=ON >/dev/null
+cmake --build build -j "$jobs"
+ctest --test-dir build --output-on-failure -j "$jobs"
+
+echo "== build and test with ASan + UBSan (clang)"
+CC=clang CXX=clang++ cmake -S . -B build-asan -G Ninja -DCMAKE_BUILD_TYPE=Debug \
+  -DZUM_SANITIZE=ON -DZUM_FUZZ=ON -DZUM_BUILD_TOOLS=OFF >/dev/null
+cmake --build build-asan -j "$jobs"
+export ASAN_OPTIONS=detect_leaks=1:abort_on_error=1
+export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
+ctest --test-dir build-asan --output-on-failure -j "$jobs"
+
+echo "== fuzz (${fuzz_seconds}s per target)"
+for target in build-asan/fuzz/fuzz_*; do
+  [ -x "$target" ] || continue
+  name=$(basename "$target")
+  work=$(mktemp -d)
+  [ -d "fuzz/corpus/$name" ] && cp -r "fuzz/corpus/$name/." "$work/"
+  "$target" -max_total_time="$fuzz_seconds" -max_len=4200 -print_final_stats=0 "$work" 2>"$work.log" || {
+    cat "$work.log"; echo "fuzz target $name failed"; exit 1; }
+  echo "$name: $(grep -o 'cov: [0-9]*' "$work.log" | tail -1), no crash"
+  rm -rf "$work" "$work.log"
+done
+echo "all tests passed"

@@ -1,0 +1,36 @@
+#include "DescExtension.h"
+
+TCDescExtension::TCDescExtension() : TCBaseDesc(0x7F) {}
+
+void TCDescExtension::DeleteAll() {}
+
+TCBaseDesc* TCDescExtension::Fork() const
+{
+    return t_ForkAs(new TCDescExtension());
+}
+
+int TCDescExtension::Tag() const
+{
+    if (!m_pRaw || m_rawLength < 3)
+        return -1;
+    return 0x7F00 + m_pRaw[2];
+}
+
+int TCDescExtension::t_Parse(const unsigned char* /*payload*/, unsigned char /*length*/)
+{
+    return m_length;
+}
+
+TCBaseDesc* TCDescExtension::ProcessExtensionDescriptor(const unsigned char* data, unsigned int /*pds*/)
+{
+    if (!data)
+        return nullptr;
+    // A body of length 0 has no extension byte to look at.
+    if (data[1] == 0)
+        return new TCDescExtension();
+    switch (data[2]) {
+    // One row per decoded extension class, e.g. "case 0x00: return new TCDescImageIcon();".
+    default:
+        return new TCDescExtension();
+    }
+}

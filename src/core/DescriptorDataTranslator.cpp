@@ -1,0 +1,45 @@
+#include "DescriptorDataTranslator.h"
+
+#include "Log.h"
+
+TCDescriptorDataTranslator::TCDescriptorDataTranslator(const unsigned char* data, unsigned char length)
+    : m_pData(data), m_length(data ? length : 0), m_bitCount(m_length * 8), m_pEnd(data ? data + m_length : nullptr)
+{
+}
+
+uint64_t TCDescriptorDataTranslator::GetBits(int count)
+{
+    if (count < 1 || m_position + count > m_bitCount)
+        return 0;
+    uint64_t value = 0;
+    for (int i = 0; i < count; ++i) {
+        const int p = m_position + i;
+        value = (value << 1) | ((m_pData[p / 8] >> (7 - (p & 7))) & 1u);
+    }
+    m_position = static_cast<unsigned short>(m_position + count);
+    return value;
+}
+
+void TCDescriptorDataTranslator::SkipBits(int count)
+{
+    const int target = m_position + count;
+    if (target < 0 || target >= m_bitCount)
+        return;
+    m_position = static_cast<unsigned short>(target);
+}
+
+unsigned char TCDescriptorDataTranslator::GetUInt8()
+{
+    if (EndOfData()) {
+        ZUM_LOGE("Reading out of bonds!");
+        return 0;
+    }
+    const unsigned char value = m_pData[m_position / 8];
+    m_position = static_cast<unsigned short>((m_position / 8 + 1) * 8);
+    return value;
+}
+
+bool TCDescriptorDataTranslator::EndOfData() const
+{
+    return !m_pData || m_pData + m_position / 8 >= m_pEnd;
+}
