@@ -1,6 +1,6 @@
-// A descriptor loop held in an exactly-sized buffer: each descriptor becomes
-// an object with a raw copy, goes into a TCDescriptorHash, and is cloned,
-// compared and copied out again.
+// One descriptor loop in an exactly-sized buffer, walked by TCDescriptor for
+// a broadcast system, table scope and binder setting chosen by the first
+// three input bytes; the hash is then cloned, compared and copied out.
 
 #include <cstddef>
 #include <cstdint>
@@ -8,32 +8,44 @@
 #include <list>
 #include <memory>
 
+#include <zum-platform/PlatformConfig.h>
+
 #include "core/BaseDesc.h"
-#include "core/DescExtension.h"
+#include "core/Descriptor.h"
 #include "core/DescriptorDataTranslator.h"
 #include "core/DescriptorHash.h"
 
+namespace {
+
+const char* const kCountries[] = {"GBR", "DEU", "KOR", "JPN", "USA", "BRA", "cri", "PHL", "TUR", "CHN"};
+const unsigned char kTableIds[] = {0x01, 0x02, 0x40, 0x41, 0x42, 0x46, 0x4A, 0x4E, 0x50, 0x70, 0x73, 0x74,
+                                   0x76, 0x80, 0x85, 0x91, 0xA7, 0xBD, 0xC3, 0xC4, 0xC7, 0xC8, 0xCA, 0xD5};
+const unsigned int kSpecifiers[] = {0, 1, 0x28, 0x233A, 0x6001, 0x62E1, 0x2FFFFF, 0x11FFFFF, 0x46534154, 0xECCA0001};
+
+} // namespace
+
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    std::unique_ptr<uint8_t[]> loop(new uint8_t[size ? size : 1]);
-    if (size)
-        std::memcpy(loop.get(), data, size);
+    if (size < 3)
+        return 0;
+    zum_platform::BinderSettings settings;
+    settings.countryCode = ZumPackCode(kCountries[data[0] % (sizeof kCountries / sizeof kCountries[0])]);
+    settings.country = static_cast<ECountry>(data[0] & 0x1F);
+    settings.operatorId = (data[0] & 0x80) ? 113 : ((data[0] & 0x40) ? 86 : 68);
+    settings.privateDataSpecifier = kSpecifiers[data[2] % (sizeof kSpecifiers / sizeof kSpecifiers[0])];
+    const bool refuseOdd = data[2] & 0x80;
+    settings.acceptSpecifier = [refuseOdd](unsigned int pds) { return !refuseOdd || (pds & 1) == 0; };
+    zum_platform::SetBinder(settings);
+    const unsigned char tableId = kTableIds[data[1] % sizeof kTableIds];
 
+    const size_t length = size - 3;
+    std::unique_ptr<uint8_t[]> loop(new uint8_t[length ? length : 1]);
+    std::memcpy(loop.get(), data + 3, length);
+
+    TCDescriptor descriptor{ZUMHandle()};
     TCDescriptorHash hash;
-    size_t offset = 0;
-    // A descriptor is decoded only when its whole body lies inside the loop.
-    while (offset + 2 <= size && offset + 2 + loop[offset + 1] <= size) {
-        const uint8_t* at = loop.get() + offset;
-        TCBaseDesc* desc = at[0] == 0x7F ? TCDescExtension::ProcessExtensionDescriptor(at, 0xFFFFFFFF)
-                                         : new TCDescDefault(at[0]);
-        offset += static_cast<size_t>(desc->Parse(at));
-        hash.Add(desc);
-        TCDescriptorDataTranslator bits(at + 2, at[1]);
-        while (!bits.EndOfData()) {
-            bits.GetBits(3);
-            bits.GetUInt8();
-        }
-    }
+    descriptor.Parse(loop.get(), static_cast<int>(length), hash, tableId);
+    descriptor.ParseByCount(loop.get(), 8, hash, tableId, static_cast<int>(length));
 
     TCDescriptorHash copy;
     copy = hash;
@@ -44,7 +56,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     unsigned char buffer[257];
     for (TCBaseDesc* clone : clones) {
         int capacity = sizeof buffer;
-        clone->GetDescriptor(buffer, &capacity);
+        if (clone->GetDescriptor(buffer, &capacity) && capacity > 2) {
+            TCDescriptorDataTranslator bits(buffer + 2, static_cast<unsigned char>(capacity - 2));
+            while (!bits.EndOfData()) {
+                bits.GetBits(3);
+                bits.GetUInt8();
+            }
+        }
         hash.NumOfDescriptors(clone->Tag());
         delete clone;
     }

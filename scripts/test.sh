@@ -14,6 +14,9 @@ cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DZUM_BUILD_BENCH
 cmake --build build -j "$jobs"
 ctest --test-dir build --output-on-failure -j "$jobs"
 
+echo "== install and consumer check"
+bash scripts/check-install.sh build
+
 echo "== build and test with ASan + UBSan (clang)"
 CC=clang CXX=clang++ cmake -S . -B build-asan -G Ninja -DCMAKE_BUILD_TYPE=Debug \
   -DZUM_SANITIZE=ON -DZUM_FUZZ=ON -DZUM_BUILD_TOOLS=OFF >/dev/null
@@ -23,9 +26,9 @@ export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
 ctest --test-dir build-asan --output-on-failure -j "$jobs"
 
 echo "== fuzz (${fuzz_seconds}s per target)"
-for target in build-asan/fuzz/fuzz_*; do
-  [ -x "$target" ] || continue
-  name=$(basename "$target")
+for source in fuzz/fuzz_*.cpp; do
+  name=$(basename "$source" .cpp)
+  target="build-asan/fuzz/$name"
   work=$(mktemp -d)
   [ -d "fuzz/corpus/$name" ] && cp -r "fuzz/corpus/$name/." "$work/"
   "$target" -max_total_time="$fuzz_seconds" -max_len=4200 -print_final_stats=0 "$work" 2>"$work.log" || {

@@ -1,0 +1,8 @@
+#include "DescConfDS.h"
+
+TCBaseDesc* TCDescConfDS::NewDescriptor(int tag, const unsigned char* /*data*/, unsigned int /*pds*/)
+{
+    switch (tag) {
+    default: return new TCDescDefault(tag);
+    }
+}

@@ -1,0 +1,169 @@
+#include "DescConfDVB.h"
+
+#include <zum-platform/Binder.h>
+
+#include "DescExtension.h"
+#include "Diagnostics.h"
+
+namespace {
+
+bool IsPrivateTag(int tag)
+{
+    return tag >= 0x80 && tag <= 0xFE;
+}
+
+} // namespace
+
+TCDescConfDVB::TCDescConfDVB(const ZUMHandle& handle) : m_handle(handle) {}
+
+TCBaseDesc* TCDescConfDVB::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
+{
+    switch (tag) {
+    case 0x7F: return TCDescExtension::ProcessExtensionDescriptor(data, pds);
+    default: return t_ProcessPrivateDesc(tag, pds);
+    }
+}
+
+unsigned int TCDescConfDVB::m_GetPrivateDataSpecification()
+{
+    if (m_pds != 0)
+        return m_pds;
+    IBinder* binder = IBinder::Instance();
+    if (binder)
+        m_pds = binder->GetPrivateDataSpecification(m_handle);
+    return m_pds;
+}
+
+TCBaseDesc* TCDescConfDVB::t_ProcessPrivateDesc(int tag, unsigned int pds)
+{
+    if (!IsPrivateTag(tag))
+        return new TCDescDefault(tag);
+    IBinder* pBinder = IBinder::Instance();
+    if (!ZUM_ASSERT(pBinder))
+        return nullptr;
+    const unsigned int op = pBinder->GetOperator(m_handle);
+    // A stream without specifier, and operator 86 always, go by the receiver's own.
+    const unsigned int effective = (pds == 0 || op == 86) ? m_GetPrivateDataSpecification() : pds;
+
+    switch (effective) {
+    case 0x00000008:
+    case 0x00000031:
+    case 0xFCFCFCFC: return m_NewSagemPrivateDesc(tag, effective);
+    case 0x00000014:
+    case 0x00000019:
+    case 0x00000029:
+    case 0x00002168:
+    case 0x000021CA:
+    case 0x00002221:
+    case 0x000022FC:
+    case 0x010FFFFF:
+    case 0x41444250: return m_NewNordicPrivateDesc(tag, effective);
+    case 0x00000022: return m_NewNumericablePrivateDesc(tag, effective);
+    case 0x00000028: return m_NewEbookPrivateDesc(tag, effective);
+    case 0x00000040: return m_NewCIPlusPrivateDesc(tag, effective);
+    case 0x000001A0:
+    case 0x007FFFFF: return m_NewRCSPrivateDesc(tag, effective);
+    case 0x0000055F: return m_NewFransatPrivateDesc(tag, effective);
+    case 0x0000233A: return m_NewDbookPrivateDesc(tag, effective);
+    case 0x00006001:
+        if (op == 68)
+            return m_NewDSmartPrivateDesc(tag, effective);
+        if (op == 90)
+            return m_NewAirTelPrivateDesc(tag, effective);
+        break;
+    case 0x00006002:
+    case 0x00006003: return m_NewNXTPrivateDesc(tag, effective);
+    // GTPL is entered on the effective specifier but reads the loop's own.
+    case 0x000062E1: return m_NewGTPLPrivateDesc(tag, pds);
+    case 0x001FFFFF: return m_NewDigitalPlusPrivateDesc(tag, effective);
+    case 0x002FFFFF: return m_NewDigiturkPrivateDesc(tag, effective);
+    case 0x005FFFFF: return m_NewTelekartaPrivateDesc(tag, effective);
+    case 0x006FFFFF: return m_NewTricolorPrivateDesc(tag, effective);
+    case 0x011FFFFF: return m_NewTKGSPrivateDesc(tag, effective);
+    case 0x46534154: return m_NewFSatPrivateDesc(tag, effective);
+    case 0x4A4F4A4F: return m_NewKDGPrivateDesc(tag, effective);
+    case 0xECCA0001: return m_NewDishTVPrivateDesc(tag, effective);
+    default: break;
+    }
+    return t_NewDefaultPrivateDesc(tag, effective);
+}
+
+TCBaseDesc* TCDescConfDVB::t_NewDefaultPrivateDesc(int tag, unsigned int /*pds*/)
+{
+    switch (tag) {
+    default: return nullptr;
+    }
+}
+
+// One operation per specifier family. Each holds the tags whose classes the
+// library decodes; any other tag goes by the default rule.
+TCBaseDesc* TCDescConfDVB::m_NewSagemPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewNordicPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewNumericablePrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewEbookPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewCIPlusPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewRCSPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewFransatPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewDbookPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewDSmartPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewAirTelPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewNXTPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewDigitalPlusPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewDigiturkPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewTelekartaPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewTricolorPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewTKGSPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewFSatPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewKDGPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewDishTVPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+
+// GTPL has no default rule: what it does not hold is skipped.
+TCBaseDesc* TCDescConfDVB::m_NewGTPLPrivateDesc(int tag, unsigned int /*pds*/)
+{
+    switch (tag) {
+    default: return nullptr;
+    }
+}
+
+TCDescConfAstra::TCDescConfAstra(const ZUMHandle& handle) : TCDescConfDVB(handle) {}
+
+TCBaseDesc* TCDescConfAstra::t_ProcessPrivateDesc(int tag, unsigned int pds)
+{
+    if (!IsPrivateTag(tag))
+        return new TCDescDefault(tag);
+    IBinder* pBinder = IBinder::Instance();
+    if (!ZUM_ASSERT(pBinder))
+        return nullptr;
+    const unsigned int configured = pds == 0 ? pBinder->GetPrivateDataSpecification(m_handle) : pds;
+    if (configured == 1) {
+        switch (tag) {
+        default: return new TCDescDefault(tag);
+        }
+    }
+    return t_NewDefaultPrivateDesc(tag, configured);
+}
+
+TCDescConfISDB::TCDescConfISDB(const ZUMHandle& handle) : TCDescConfDVB(handle) {}
+
+TCBaseDesc* TCDescConfISDB::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
+{
+    switch (tag) {
+    default: return TCDescConfDVB::NewDescriptor(tag, data, pds);
+    }
+}
+
+TCBaseDesc* TCDescConfISDB::t_ProcessPrivateDesc(int tag, unsigned int /*pds*/)
+{
+    switch (tag) {
+    default: return new TCDescDefault(tag);
+    }
+}
+
+TCDescConfJPN::TCDescConfJPN(const ZUMHandle& handle) : TCDescConfISDB(handle) {}
+
+TCBaseDesc* TCDescConfJPN::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
+{
+    switch (tag) {
+    default: return TCDescConfISDB::NewDescriptor(tag, data, pds);
+    }
+}

@@ -1,0 +1,88 @@
+#include "DescConfPSIBase.h"
+
+#include <zum-platform/Binder.h>
+
+#include "DescExtension.h"
+
+TCBaseDesc* TCDescConfPSIBase::NewDescriptor(int tag, const unsigned char* /*data*/, unsigned int /*pds*/)
+{
+    switch (tag) {
+    default: return new TCDescDefault(tag);
+    }
+}
+
+TCDescConfPsiDVB::TCDescConfPsiDVB(const ZUMHandle& handle) : m_handle(handle) {}
+
+TCBaseDesc* TCDescConfPsiDVB::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
+{
+    switch (tag) {
+    // Program tables carry no specifier into extensions: the 0xA3 row needs the SI factory.
+    case 0x7F: return TCDescExtension::ProcessExtensionDescriptor(data, 0xFFFFFFFF);
+    case 0x98:
+    case 0xA0:
+    case 0xD0:
+    case 0xD1: return t_ProcessPrivateDesc(tag, pds);
+    default: return TCDescConfPSIBase::NewDescriptor(tag, data, pds);
+    }
+}
+
+TCBaseDesc* TCDescConfPsiDVB::t_ProcessPrivateDesc(int tag, unsigned int pds)
+{
+    if (tag < 0x80 || tag > 0xFE)
+        return nullptr;
+    if (pds == 0x46534154)
+        return m_NewFSatPrivateDesc(tag, pds);
+    IBinder* binder = IBinder::Instance();
+    if (pds == 0 && binder) {
+        const ECountry country = binder->GetCountry(m_handle);
+        if (country == ECOUNTRY_TURKEY && binder->GetPrivateDataSpecification(m_handle) == 0x011FFFFF)
+            return m_NewTKGSPrivateDesc(tag, 0);
+        if (country == ECOUNTRY_CHINA)
+            return m_NewCHNPrivateDesc(tag, 0);
+    }
+    return nullptr;
+}
+
+TCBaseDesc* TCDescConfPsiDVB::m_NewFSatPrivateDesc(int tag, unsigned int /*pds*/)
+{
+    switch (tag) {
+    default: return nullptr;
+    }
+}
+
+TCBaseDesc* TCDescConfPsiDVB::m_NewCHNPrivateDesc(int tag, unsigned int /*pds*/)
+{
+    switch (tag) {
+    default: return nullptr;
+    }
+}
+
+TCBaseDesc* TCDescConfPsiDVB::m_NewTKGSPrivateDesc(int tag, unsigned int /*pds*/)
+{
+    switch (tag) {
+    default: return nullptr;
+    }
+}
+
+TCDescConfPsiISDB::TCDescConfPsiISDB(const ZUMHandle& handle) : TCDescConfPsiDVB(handle) {}
+
+TCBaseDesc* TCDescConfPsiISDB::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
+{
+    switch (tag) {
+    default: return TCDescConfPsiDVB::NewDescriptor(tag, data, pds);
+    }
+}
+
+TCBaseDesc* TCDescConfPsiATSC::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
+{
+    switch (tag) {
+    default: return TCDescConfPSIBase::NewDescriptor(tag, data, pds);
+    }
+}
+
+TCBaseDesc* TCDescConfPsiKR::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
+{
+    switch (tag) {
+    default: return TCDescConfPsiATSC::NewDescriptor(tag, data, pds);
+    }
+}
