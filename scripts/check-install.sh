@@ -58,11 +58,11 @@ check_headers() {
     [ ! -s "$work/headers.log" ] || { cat "$work/headers.log" >&2; fail "installed headers do not compile on their own"; }
 }
 
-# Runs a consumer binary on the sample PAT and checks what it printed and where it took the libraries from.
+# Runs a consumer binary on the sample PAT and PMT sections and checks what it printed and where it took the libraries from.
 check_run() {
     local prefix=$1 binary=$2 how=$3 name loaded
-    "$binary" samples/pat.sec >"$work/out.txt" 2>&1 || { cat "$work/out.txt" >&2; fail "$how consumer failed to run"; }
-    diff -u examples/consumer/pat.expected "$work/out.txt" >&2 || fail "$how consumer printed something else"
+    "$binary" samples/pat.sec samples/pmt.sec >"$work/out.txt" 2>&1 || { cat "$work/out.txt" >&2; fail "$how consumer failed to run"; }
+    diff -u examples/consumer/expected.txt "$work/out.txt" >&2 || fail "$how consumer printed something else"
     for name in zum-parser zum-platform; do
         loaded=$(ldd "$binary" | sed -n "s/^[[:space:]]*lib$name.so.$major => \([^ ]*\).*/\1/p")
         [ -n "$loaded" ] && [ "$(realpath "$loaded")" = "$(realpath "$prefix/$libdir/lib$name.so.$version")" ] ||
