@@ -36,6 +36,20 @@ inline bool MakeExactSection(const uint8_t* data, size_t size, ExactSection& out
     return true;
 }
 
+// Cuts the input into consecutive exactly-sized sections and hands each to `f`.
+template <class F>
+void ForEachSection(const uint8_t* data, size_t size, int forceTableId, F&& f)
+{
+    size_t offset = 0;
+    while (offset < size) {
+        ExactSection section;
+        if (!MakeExactSection(data + offset, size - offset, section, forceTableId))
+            break;
+        f(section);
+        offset += section.size;
+    }
+}
+
 } // namespace zumfuzz
 
 #endif

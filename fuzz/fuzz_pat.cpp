@@ -11,16 +11,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     TCPATParser pat{ZUMHandle()};
     pat.Initialize();
-    size_t offset = 0;
-    while (offset < size) {
-        zumfuzz::ExactSection section;
-        if (!zumfuzz::MakeExactSection(data + offset, size - offset, section))
-            break;
+    zumfuzz::ForEachSection(data, size, -1, [&pat](const zumfuzz::ExactSection& section) {
         pat.Parse(0, section.data());
         for (int i = 0; i < pat.NumOfProgramList(); ++i)
             pat.ProgramPID(static_cast<unsigned short>(pat.ProgramNumber(static_cast<unsigned>(i))));
         pat.IsRecv();
-        offset += section.size;
-    }
+    });
     return 0;
 }
