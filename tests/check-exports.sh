@@ -17,7 +17,7 @@ named='^(_TCParserAssert|PrintSignalMessage|PrintXmlFormat|CEXTEventLinkageInfo|
 # Sets scope to the outermost scope of a mangled name: its class, namespace or free function.
 owner() {
     local s=${1#_Z}
-    local special='^(T[IVSTHW]|Th[n]?[0-9]+_|Tv[n]?[0-9]+_[n]?[0-9]+_|Tc([hv][n]?[0-9]+_([n]?[0-9]+_)?){2}|GV|Z|L|N[rVKRO]*)'
+    local special='^(T[IVSTHWC]|Th[n]?[0-9]+_|Tv[n]?[0-9]+_[n]?[0-9]+_|Tc([hv][n]?[0-9]+_([n]?[0-9]+_)?){2}|GV|Z|L|N[rVKRO]*)'
     scope=$1
     [ "$s" != "$1" ] || return 0
     while [[ $s =~ $special ]]; do s=${s:${#BASH_REMATCH[0]}}; done

@@ -3,6 +3,18 @@
 #include <zum-platform/Binder.h>
 
 #include "DescExtension.h"
+#include "../dvb/DescComponent.h"
+#include "../dvb/DescContent.h"
+#include "../dvb/DescCountryAvailability.h"
+#include "../dvb/DescMultilingualNetworkName.h"
+#include "../dvb/DescNetworkName.h"
+#include "../dvb/DescPrivateDataSpecifier.h"
+#include "../dvb/DescService.h"
+#include "../dvb/DescShortEvent.h"
+#include "../dvb/DescLocalTimeOffset.h"
+#include "../dvb/DescSatelliteDeliverySystem.h"
+#include "../operators/DescLogicalChannel.h"
+#include "../operators/DescLogicalChannelV2.h"
 #include "Diagnostics.h"
 
 namespace {
@@ -19,6 +31,26 @@ TCDescConfDVB::TCDescConfDVB(const ZUMHandle& handle) : m_handle(handle) {}
 TCBaseDesc* TCDescConfDVB::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
 {
     switch (tag) {
+    case 0x40: return new TCDescNetworkName();
+    case 0x41: return new TCDescServiceList();
+    case 0x43: return new TCDescSatelliteDeliverySystem(0x43);
+    case 0x44: return new TCDescCableDeliverySystem();
+    case 0x47: return new TCDescBouquetName();
+    case 0x48: return new TCDescService();
+    case 0x49: return new TCDescCountryAvailability();
+    case 0x4D: return new TCDescShortEvent();
+    case 0x4E: return new TCDescExtendedEvent();
+    case 0x50: return new TCDescComponent(0);
+    // The Dish TV genre class is not decoded yet: its specifier keeps the raw bytes.
+    case 0x54: return pds == 0xECCA0001 ? static_cast<TCBaseDesc*>(new TCDescDefault(0x54)) : new TCDescContent();
+    case 0x55: return new TCDescParentalRating();
+    case 0x58: return new TCDescLocalTimeOffset();
+    case 0x5A: return new TCDescTerrestrialDeliverySystem();
+    case 0x5B: return new TCDescMultilingualNetworkName();
+    case 0x5C: return new TCDescMultilingualBouquetName();
+    case 0x5D: return new TCDescMultilingualServiceName();
+    case 0x5F: return new TCDescPrivateDataSpecifier();
+    case 0x62: return new TCDescFrequencyList();
     case 0x7F: return TCDescExtension::ProcessExtensionDescriptor(data, pds);
     default: return t_ProcessPrivateDesc(tag, pds);
     }
@@ -88,39 +120,107 @@ TCBaseDesc* TCDescConfDVB::t_ProcessPrivateDesc(int tag, unsigned int pds)
     return t_NewDefaultPrivateDesc(tag, effective);
 }
 
-TCBaseDesc* TCDescConfDVB::t_NewDefaultPrivateDesc(int tag, unsigned int /*pds*/)
+TCBaseDesc* TCDescConfDVB::t_NewDefaultPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {
+    case 0x83: return new TCDescLogicalChannel(0x83, pds);
     default: return nullptr;
     }
 }
 
 // One operation per specifier family. Each holds the tags whose classes the
 // library decodes; any other tag goes by the default rule.
-TCBaseDesc* TCDescConfDVB::m_NewSagemPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
-TCBaseDesc* TCDescConfDVB::m_NewNordicPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
-TCBaseDesc* TCDescConfDVB::m_NewNumericablePrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
-TCBaseDesc* TCDescConfDVB::m_NewEbookPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewSagemPrivateDesc(int tag, unsigned int pds)
+{
+    switch (tag) {
+    case 0x82: return new TCDescLogicalChannel(0x82, pds);
+    default: return t_NewDefaultPrivateDesc(tag, pds);
+    }
+}
+TCBaseDesc* TCDescConfDVB::m_NewNordicPrivateDesc(int tag, unsigned int pds)
+{
+    switch (tag) {
+    case 0x87: return new TCDescLogicalChannelV2(m_handle);
+    default: return t_NewDefaultPrivateDesc(tag, pds);
+    }
+}
+TCBaseDesc* TCDescConfDVB::m_NewNumericablePrivateDesc(int tag, unsigned int pds)
+{
+    switch (tag) {
+    case 0xB0: return new TCDescLogicalChannel(0xB0, pds);
+    default: return t_NewDefaultPrivateDesc(tag, pds);
+    }
+}
+TCBaseDesc* TCDescConfDVB::m_NewEbookPrivateDesc(int tag, unsigned int pds)
+{
+    switch (tag) {
+    case 0x88: return new TCDescLogicalChannel(0x88, pds);
+    default: return t_NewDefaultPrivateDesc(tag, pds);
+    }
+}
 TCBaseDesc* TCDescConfDVB::m_NewCIPlusPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
-TCBaseDesc* TCDescConfDVB::m_NewRCSPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewRCSPrivateDesc(int tag, unsigned int pds)
+{
+    switch (tag) {
+    case 0x86: return new TCDescLogicalChannel(0x86, pds);
+    default: return t_NewDefaultPrivateDesc(tag, pds);
+    }
+}
 TCBaseDesc* TCDescConfDVB::m_NewFransatPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
-TCBaseDesc* TCDescConfDVB::m_NewDbookPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
-TCBaseDesc* TCDescConfDVB::m_NewDSmartPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
-TCBaseDesc* TCDescConfDVB::m_NewAirTelPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
-TCBaseDesc* TCDescConfDVB::m_NewNXTPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewDbookPrivateDesc(int tag, unsigned int pds)
+{
+    switch (tag) {
+    case 0x88: return new TCDescLogicalChannel(0x88, pds);
+    default: return t_NewDefaultPrivateDesc(tag, pds);
+    }
+}
+TCBaseDesc* TCDescConfDVB::m_NewDSmartPrivateDesc(int tag, unsigned int pds)
+{
+    switch (tag) {
+    case 0xE2: return new TCDescLogicalChannel(0xE2, pds);
+    default: return t_NewDefaultPrivateDesc(tag, pds);
+    }
+}
+TCBaseDesc* TCDescConfDVB::m_NewAirTelPrivateDesc(int tag, unsigned int pds)
+{
+    switch (tag) {
+    case 0xE2: return new TCDescLogicalChannel(0xE2, pds);
+    default: return t_NewDefaultPrivateDesc(tag, pds);
+    }
+}
+TCBaseDesc* TCDescConfDVB::m_NewNXTPrivateDesc(int tag, unsigned int pds)
+{
+    switch (tag) {
+    case 0x82: return new TCDescLogicalChannel(0x82, pds);
+    default: return t_NewDefaultPrivateDesc(tag, pds);
+    }
+}
 TCBaseDesc* TCDescConfDVB::m_NewDigitalPlusPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
-TCBaseDesc* TCDescConfDVB::m_NewDigiturkPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewDigiturkPrivateDesc(int tag, unsigned int pds)
+{
+    switch (tag) {
+    case 0x81: return new TCDescLogicalChannel(0x81, pds);
+    default: return t_NewDefaultPrivateDesc(tag, pds);
+    }
+}
 TCBaseDesc* TCDescConfDVB::m_NewTelekartaPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
-TCBaseDesc* TCDescConfDVB::m_NewTricolorPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewTricolorPrivateDesc(int tag, unsigned int pds)
+{
+    switch (tag) {
+    case 0x87: return new TCDescLogicalChannelV2(m_handle);
+    default: return t_NewDefaultPrivateDesc(tag, pds);
+    }
+}
 TCBaseDesc* TCDescConfDVB::m_NewTKGSPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
 TCBaseDesc* TCDescConfDVB::m_NewFSatPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
 TCBaseDesc* TCDescConfDVB::m_NewKDGPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
 TCBaseDesc* TCDescConfDVB::m_NewDishTVPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
 
 // GTPL has no default rule: what it does not hold is skipped.
-TCBaseDesc* TCDescConfDVB::m_NewGTPLPrivateDesc(int tag, unsigned int /*pds*/)
+TCBaseDesc* TCDescConfDVB::m_NewGTPLPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {
+    case 0xE2: return pds == 0x000062E1 ? new TCDescLogicalChannel(0xE2, 0x000062E1) : nullptr;
     default: return nullptr;
     }
 }
@@ -148,6 +248,8 @@ TCDescConfISDB::TCDescConfISDB(const ZUMHandle& handle) : TCDescConfDVB(handle) 
 TCBaseDesc* TCDescConfISDB::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
 {
     switch (tag) {
+    case 0x4D: return new TCDescShortEventISDB();
+    case 0x50: return new TCDescComponent(1);
     default: return TCDescConfDVB::NewDescriptor(tag, data, pds);
     }
 }

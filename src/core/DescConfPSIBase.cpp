@@ -3,10 +3,17 @@
 #include <zum-platform/Binder.h>
 
 #include "DescExtension.h"
+#include "../dvb/DescComponent.h"
+#include "../dvb/DescContent.h"
+#include "../dvb/DescLanguage.h"
+#include "../dvb/DescPrivateDataSpecifier.h"
+#include "../dvb/DescServiceMove.h"
 
 TCBaseDesc* TCDescConfPSIBase::NewDescriptor(int tag, const unsigned char* /*data*/, unsigned int /*pds*/)
 {
     switch (tag) {
+    case 0x0A: return new TCDescLanguage();
+    case 0x52: return new TCDescStreamIdentifier();
     default: return new TCDescDefault(tag);
     }
 }
@@ -17,6 +24,10 @@ TCBaseDesc* TCDescConfPsiDVB::NewDescriptor(int tag, const unsigned char* data, 
 {
     switch (tag) {
     // Program tables carry no specifier into extensions: the 0xA3 row needs the SI factory.
+    case 0x56: return new TCDescTeletext();
+    case 0x59: return new TCDescSubtitling();
+    case 0x5F: return new TCDescPrivateDataSpecifier();
+    case 0x60: return new TCDescServiceMove();
     case 0x7F: return TCDescExtension::ProcessExtensionDescriptor(data, 0xFFFFFFFF);
     case 0x98:
     case 0xA0:
@@ -69,6 +80,7 @@ TCDescConfPsiISDB::TCDescConfPsiISDB(const ZUMHandle& handle) : TCDescConfPsiDVB
 TCBaseDesc* TCDescConfPsiISDB::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
 {
     switch (tag) {
+    case 0x55: return new TCDescParentalRating();
     default: return TCDescConfPsiDVB::NewDescriptor(tag, data, pds);
     }
 }

@@ -1,5 +1,7 @@
 #include "DescExtension.h"
 
+#include "../dvb/DescT2SystemDelivery.h"
+
 TCDescExtension::TCDescExtension() : TCBaseDesc(0x7F) {}
 
 void TCDescExtension::DeleteAll() {}
@@ -30,6 +32,7 @@ TCBaseDesc* TCDescExtension::ProcessExtensionDescriptor(const unsigned char* dat
         return new TCDescExtension();
     switch (data[2]) {
     // One row per decoded extension class, e.g. "case 0x00: return new TCDescImageIcon();".
+    case 0x04: return new TCDescT2SystemDelivery();
     default:
         return new TCDescExtension();
     }

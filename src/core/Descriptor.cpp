@@ -1,6 +1,10 @@
 #include "Descriptor.h"
 
+#include <typeinfo>
+
 #include <zum-platform/Binder.h>
+
+#include "../dvb/DescContent.h"
 
 #include "DescConfDS.h"
 #include "DescConfDVB.h"
@@ -170,12 +174,20 @@ bool TCDescriptorDVB::t_SetPDSOnCRIDDescriptor(TCBaseDesc* desc, unsigned int /*
     return false;
 }
 
-bool TCDescriptorDVB::t_checkContentDescriptor(TCBaseDesc* desc, unsigned int /*pds*/)
+bool TCDescriptorDVB::t_checkContentDescriptor(TCBaseDesc* desc, unsigned int pds)
 {
     if (desc->Tag() != 0x54)
         return true;
-    // Until content descriptors decode, the tag stands as an unknown one.
-    return dynamic_cast<TCDescDefault*>(desc) != nullptr;
+    if (TCDescContent* content = dynamic_cast<TCDescContent*>(desc)) {
+        IBinder* binder = IBinder::Instance();
+        // UK genre user nibbles are read under the specifier; asked for the receiver, not this loop.
+        if (binder && binder->GetCountryCode(kZUMDefaultHandle) == ZumPackCode('G', 'B', 'R') &&
+            binder->IsValidPrivateDataSpecification(kZUMDefaultHandle, pds))
+            content->SetPDSD(pds);
+        return true;
+    }
+    // The Dish TV genre row still answers a plain default object; any other class is wrong here.
+    return typeid(*desc) == typeid(TCDescDefault);
 }
 
 bool TCDescriptorDVB::t_CheckLinkageDescriptor(TCBaseDesc* desc, unsigned int /*pds*/)

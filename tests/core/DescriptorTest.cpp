@@ -7,6 +7,7 @@
 #include "core/DescConfBase.h"
 #include "core/DescExtension.h"
 #include "core/Descriptor.h"
+#include "dvb/DescContent.h"
 #include "support/LogCapture.h"
 #include "support/SectionBuilder.h"
 #include "support/TestEnvironment.h"
@@ -294,7 +295,7 @@ TEST(Descriptor, CachedSpecifierReachesHooksNotFactory)
     EXPECT_EQ(loop.made[0].pds, 0x28u);
 }
 
-TEST(Descriptor, LinkageAndContentTagsStandAsUnknownUntilDecoded)
+TEST(Descriptor, LinkageTagStandsAsUnknownUntilDecodedContentDecodes)
 {
     zumtest::BinderScope binder;
     TCDescriptor descriptor{ZUMHandle()};
@@ -302,4 +303,77 @@ TEST(Descriptor, LinkageAndContentTagsStandAsUnknownUntilDecoded)
     const Bytes loop = Concat({Desc(0x4A, {0, 1, 0, 2, 0, 3, 0x80}), Desc(0x54, {0x12, 0}), Desc(0x76, {})});
     descriptor.Parse(loop.data(), static_cast<int>(loop.size()), hash, 0x4E);
     EXPECT_EQ(Tags(hash), (std::vector<int>{0x4A, 0x54, 0x76}));
+    EXPECT_NE(dynamic_cast<TCDescContent*>(hash.Descriptor(0x54, 0)), nullptr);
+}
+
+// A content descriptor takes the loop's specifier only on a UK receiver whose
+// binder accepts it, both asked with the handle 1, 0, 0; it stays in any case.
+TEST(Descriptor, ContentDescriptorTakesTheSpecifierInTheUK)
+{
+    struct Case {
+        const char* name;
+        const char* country;
+        bool accept;
+        bool binder;
+        unsigned int stored;
+    } cases[] = {
+        {"UK receiver, specifier accepted", "GBR", true, true, 0x233A},
+        {"other country", "DEU", true, true, 0},
+        {"specifier refused", "GBR", false, true, 0},
+        {"no binder", "GBR", true, false, 0},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        zumtest::BinderScope binder;
+        binder->countryCode = ZumPackCode(c.country);
+        const bool accept = c.accept;
+        binder->acceptSpecifier = [accept](unsigned int) { return accept; };
+        if (!c.binder)
+            zum_platform::RemoveBinder();
+        RecordingDVB loop; // its own handle is 5, 6, 7
+        TCDescriptorHash hash;
+        ParseLoop(loop, Concat({Pds(0x233A), Desc(0x54, {0x12, 0x34})}), hash, 0x4E);
+        ASSERT_EQ(Tags(hash), (std::vector<int>{0x54}));
+        auto* content = dynamic_cast<TCDescContent*>(hash.Descriptor(0x54, 0));
+        ASSERT_NE(content, nullptr);
+        EXPECT_EQ(content->PDSD(), c.stored);
+        if (c.binder) {
+            EXPECT_EQ(zum_platform::LastBinderHandle(), kZUMDefaultHandle);
+        }
+    }
+}
+
+namespace {
+
+// Tag 0x54 made as a class that is neither the content class nor a plain default one.
+class NotContent : public TCDescDefault {
+public:
+    NotContent() : TCDescDefault(0x54) {}
+};
+
+class NotContentConf : public TCDescConfBase {
+public:
+    TCBaseDesc* NewDescriptor(int tag, const unsigned char*, unsigned int) override
+    {
+        return tag == 0x54 ? new NotContent() : new TCDescDefault(tag);
+    }
+};
+
+class NotContentDVB : public TCDescriptorDVB {
+public:
+    NotContentDVB() : TCDescriptorDVB(ZUMHandle()) {}
+
+protected:
+    TCDescConfBase* t_GetDescConf(unsigned char) override { return new NotContentConf(); }
+};
+
+} // namespace
+
+TEST(Descriptor, ContentTagOfAnotherClassIsDropped)
+{
+    zumtest::BinderScope binder;
+    NotContentDVB loop;
+    TCDescriptorHash hash;
+    ParseLoop(loop, Concat({Desc(0x54, {0x12, 0x34}), Desc(0x42, {})}), hash, 0x4E);
+    EXPECT_EQ(Tags(hash), (std::vector<int>{0x42}));
 }

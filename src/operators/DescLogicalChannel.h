@@ -1,0 +1,99 @@
+#ifndef ZUM_OPERATORS_DESCLOGICALCHANNEL_H
+#define ZUM_OPERATORS_DESCLOGICALCHANNEL_H
+
+#include <list>
+#include <map>
+#include <set>
+
+#include <zum-platform/Codes.h>
+
+#include "../core/BaseDesc.h"
+
+class ILCNDescParseHelper;
+
+// One entry of any logical channel descriptor; a field that an operator does
+// not send keeps its neutral value.
+struct _TTDescLCN {
+    unsigned short serviceId;
+    unsigned char visibleFlag;
+    unsigned char numericSelectionFlag;
+    unsigned short channelNumber;
+    unsigned short regionId;
+    unsigned short freesatServiceId;
+    unsigned short dpIdFirst;
+    unsigned short dpIdSecond;
+    unsigned char customisableFlag;
+    unsigned short polsatServiceId;
+};
+
+// How the rest of the system reads the channel numbers of every operator.
+class ZUM_EXPORT IDescLogicalChannel {
+public:
+    virtual ~IDescLogicalChannel() = default;
+    virtual bool GetAvailableRegions(std::list<unsigned short>& regions) const = 0;
+    virtual unsigned int NumOfServices(unsigned short region) const = 0;
+    // 0xFFFF00 as `country` stands for any country.
+    virtual bool CheckServiceId(unsigned short serviceId, ECountryCode country) const = 0;
+    // 0xFFFFFFFF when the service has no number here.
+    virtual unsigned int LogicalChannelNumber(unsigned short serviceId) const = 0;
+    virtual void GetLogicalChannelNumberList(unsigned short serviceId, std::list<unsigned short>& numbers) const = 0;
+    virtual bool FreesatServiceId(unsigned short serviceId, unsigned short& freesatId) const = 0;
+    virtual bool PolsatServiceId(unsigned short serviceId, std::list<unsigned short>& polsatIds) const = 0;
+    virtual bool CustomisableServiceFlag(unsigned short serviceId, unsigned short region) const = 0;
+    virtual bool VisibleServiceFlag(unsigned short serviceId, unsigned short region) const = 0;
+    virtual bool NumericSelectionFlag(unsigned short serviceId, unsigned short region) const = 0;
+    // A walk over the entries; one reader at a time (Fork gives another its own).
+    virtual const _TTDescLCN* First(unsigned short region) = 0;
+    virtual const _TTDescLCN* Next(unsigned short region) = 0;
+    virtual bool ServiceIDList(std::set<unsigned short>& serviceIds) const = 0;
+    virtual bool GetDPIds(unsigned short serviceId, unsigned short& first, unsigned short& second) const = 0;
+};
+
+// Version 1: a loop of four-byte entries whose bit layout follows the
+// private data specifier it was created under.
+class ZUM_EXPORT TCDescLogicalChannel : public TCBaseDesc, public IDescLogicalChannel {
+public:
+    using EntryMap = std::multimap<unsigned short, _TTDescLCN>;
+
+    TCDescLogicalChannel(int tag, unsigned int privateDataSpecifier);
+    ~TCDescLogicalChannel() override;
+
+    void DeleteAll() override;
+    TCBaseDesc* Fork() const override;
+
+    bool GetAvailableRegions(std::list<unsigned short>& regions) const override;
+    unsigned int NumOfServices(unsigned short region) const override;
+    bool CheckServiceId(unsigned short serviceId, ECountryCode country) const override;
+    unsigned int LogicalChannelNumber(unsigned short serviceId) const override;
+    void GetLogicalChannelNumberList(unsigned short serviceId, std::list<unsigned short>& numbers) const override;
+    bool FreesatServiceId(unsigned short serviceId, unsigned short& freesatId) const override;
+    bool PolsatServiceId(unsigned short serviceId, std::list<unsigned short>& polsatIds) const override;
+    bool CustomisableServiceFlag(unsigned short serviceId, unsigned short region) const override;
+    bool VisibleServiceFlag(unsigned short serviceId, unsigned short region) const override;
+    bool NumericSelectionFlag(unsigned short serviceId, unsigned short region) const override;
+    const _TTDescLCN* First(unsigned short region) override;
+    const _TTDescLCN* Next(unsigned short region) override;
+    bool ServiceIDList(std::set<unsigned short>& serviceIds) const override;
+    bool GetDPIds(unsigned short serviceId, unsigned short& first, unsigned short& second) const override;
+
+    unsigned int PrivateDataSpecifier() const { return m_privateDataSpecifier; }
+
+    // An entry with the neutral values of every field an operator may leave out.
+    static _TTDescLCN EmptyEntry(unsigned short serviceId);
+    // The entry layout that a specifier and a tag stand for; owned by the caller.
+    static ILCNDescParseHelper* NewParseHelper(unsigned int privateDataSpecifier, int tag);
+
+protected:
+    int t_Parse(const unsigned char* payload, unsigned char length) override;
+    // Goes behind the entries of the same service id.
+    void t_AddEntry(const _TTDescLCN& entry);
+    const EntryMap& t_Entries() const { return m_entries; }
+
+    unsigned int m_privateDataSpecifier;
+
+private:
+    EntryMap m_entries;
+    EntryMap::const_iterator m_readPosition;
+};
+
+#endif

@@ -1,0 +1,78 @@
+#ifndef ZUM_OPERATORS_DESCLOGICALCHANNELV2_H
+#define ZUM_OPERATORS_DESCLOGICALCHANNELV2_H
+
+#include <map>
+#include <string>
+
+#include <zum-platform/ZUMHandle.h>
+
+#include "DescLogicalChannel.h"
+
+// Version 2 carries several channel lists; the reading operations answer for
+// the selected one.
+class ZUM_EXPORT IDescLogicalChannelV2 : public virtual IDescLogicalChannel {
+public:
+    // Replaces `lists` with the names of all lists, keyed by list id.
+    virtual void GetChannelLists(std::map<unsigned int, std::string>& lists) const = 0;
+    virtual bool SelectChannelList(unsigned int listId) = 0;
+    // The selected list's country and id; false (country 0, id -1) with none selected.
+    virtual bool GetChannelListCountryId(ECountryCode& country, int& listId) const = 0;
+};
+
+// Tag 0x87: channel lists with a number, a name and a country each. Parsing
+// selects the list of the receiver's country, the lowest id among equals.
+class ZUM_EXPORT TCDescLogicalChannelV2 : public TCBaseDesc, public IDescLogicalChannelV2 {
+public:
+    using EntryMap = TCDescLogicalChannel::EntryMap;
+
+    static constexpr unsigned int s_invalid_lcn = 0xFFFFFFFF;
+    static constexpr unsigned char s_default_visible_flag = 1;
+    static constexpr unsigned int s_invalid_channel_id = 0xFFFFFFFF;
+
+    explicit TCDescLogicalChannelV2(const ZUMHandle& handle);
+    ~TCDescLogicalChannelV2() override;
+
+    void DeleteAll() override;
+    TCBaseDesc* Fork() const override;
+
+    bool GetAvailableRegions(std::list<unsigned short>& regions) const override;
+    unsigned int NumOfServices(unsigned short region) const override;
+    bool CheckServiceId(unsigned short serviceId, ECountryCode country) const override;
+    unsigned int LogicalChannelNumber(unsigned short serviceId) const override;
+    void GetLogicalChannelNumberList(unsigned short serviceId, std::list<unsigned short>& numbers) const override;
+    bool FreesatServiceId(unsigned short serviceId, unsigned short& freesatId) const override;
+    bool PolsatServiceId(unsigned short serviceId, std::list<unsigned short>& polsatIds) const override;
+    bool CustomisableServiceFlag(unsigned short serviceId, unsigned short region) const override;
+    bool VisibleServiceFlag(unsigned short serviceId, unsigned short region) const override;
+    bool NumericSelectionFlag(unsigned short serviceId, unsigned short region) const override;
+    const _TTDescLCN* First(unsigned short region) override;
+    const _TTDescLCN* Next(unsigned short region) override;
+    bool ServiceIDList(std::set<unsigned short>& serviceIds) const override;
+    bool GetDPIds(unsigned short serviceId, unsigned short& first, unsigned short& second) const override;
+
+    void GetChannelLists(std::map<unsigned int, std::string>& lists) const override;
+    bool SelectChannelList(unsigned int listId) override;
+    bool GetChannelListCountryId(ECountryCode& country, int& listId) const override;
+
+    // Replaces `entries` with a copy of that list's; an unknown list leaves it.
+    void GetLogicalChannelMapForChList(unsigned int listId, EntryMap& entries) const;
+
+protected:
+    int t_Parse(const unsigned char* payload, unsigned char length) override;
+
+private:
+    const EntryMap* m_SelectedEntries() const;
+    ECountryCode m_CountryOf(unsigned int listId) const;
+    void m_UpdateSelection(unsigned int listId, ECountryCode receiverCountry);
+
+    std::map<unsigned int, EntryMap> m_lists;
+    std::map<unsigned int, std::string> m_listNames;
+    std::map<unsigned int, ECountryCode> m_listCountries;
+    // The walk keeps the list it started on, even if another is selected meanwhile.
+    const EntryMap* m_walkList = nullptr;
+    EntryMap::const_iterator m_readPosition;
+    unsigned int m_selectedList = s_invalid_channel_id;
+    ZUMHandle m_handle;
+};
+
+#endif
