@@ -7,6 +7,7 @@ packages=(
   build-essential cmake ninja-build pkg-config
   clang libclang-rt-14-dev
   libgtest-dev libbenchmark-dev
+  zlib1g-dev
 )
 
 missing=()

@@ -7,7 +7,7 @@ cd "$(dirname "$0")/.."
 bash scripts/install-deps.sh
 
 jobs=$(nproc)
-fuzz_seconds=${ZUM_FUZZ_SECONDS:-15}
+fuzz_seconds=${ZUM_FUZZ_SECONDS:-10}
 
 echo "== build and test (gcc)"
 cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DZUM_BUILD_BENCH=ON >/dev/null

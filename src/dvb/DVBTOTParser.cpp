@@ -1,0 +1,54 @@
+#include "DVBTOTParser.h"
+
+#include "../core/Descriptor.h"
+#include "../core/Diagnostics.h"
+#include "DescLocalTimeOffset.h"
+
+namespace {
+
+const int kLocalTimeOffsetTag = 0x58;
+// UTC_time (5 bytes), then reserved bits and descriptors_loop_length.
+const int kLoopStart = 7;
+
+} // namespace
+
+TCDVBTOTParser::TCDVBTOTParser(const ZUMHandle& handle) : TCSectionParser(0x73, handle) {}
+
+TCDVBTOTParser::~TCDVBTOTParser()
+{
+    DeleteAll();
+}
+
+void TCDVBTOTParser::DeleteAll()
+{
+    m_descriptors.DeleteAll();
+}
+
+void TCDVBTOTParser::t_Initialize() {}
+
+bool TCDVBTOTParser::GetLocalTimeOffsetDescList(std::list<TCBaseDesc*>* pDescList) const
+{
+    if (!ZUM_ASSERT(pDescList))
+        return false;
+    const int count = m_descriptors.NumOfDescriptors(kLocalTimeOffsetTag);
+    for (int i = 0; i < count; ++i)
+        pDescList->push_back(m_descriptors.Descriptor(kLocalTimeOffsetTag, static_cast<unsigned int>(i))->Fork());
+    return count > 0;
+}
+
+bool TCDVBTOTParser::t_Parse(const unsigned char* body, int length)
+{
+    // Without the loop length there is nothing to read safely.
+    if (length < kLoopStart)
+        return false;
+    // Only the last section's descriptors stand.
+    DeleteAll();
+    m_time = TCDescLocalTimeOffset::ConvertDVBtimetoATSCtime(body);
+    int loopLength = ((body[5] & 0x0F) << 8) | body[6];
+    // A loop that claims more than the section holds is cut at its end.
+    if (loopLength > length - kLoopStart)
+        loopLength = length - kLoopStart;
+    TCDescriptor descriptor(m_handle);
+    descriptor.Parse(body + kLoopStart, loopLength, m_descriptors, m_tableId);
+    return true;
+}
