@@ -1,0 +1,298 @@
+#include "DVBNITParser.h"
+
+#include <algorithm>
+
+#include "../core/Descriptor.h"
+#include "../operators/DescLogicalChannel.h"
+#include "../operators/DescLogicalChannelV2.h"
+
+namespace {
+
+constexpr int kMuxHeaderSize = 6;
+constexpr ECountryCode kAnyCountry = 0xFFFF00;
+
+} // namespace
+
+// ---------------------------------------------------------------- mux
+
+TCDVBItemMux::TCDVBItemMux(unsigned short tableId, const ZUMHandle& handle) : m_handle(handle), m_tableId(tableId) {}
+
+int TCDVBItemMux::Parse(const unsigned char* data)
+{
+    return m_Parse(data, INT_MAX);
+}
+
+int TCDVBItemMux::Parse(const unsigned char* data, int remaining)
+{
+    if (remaining < 1)
+        return 0;
+    return m_Parse(data, remaining);
+}
+
+int TCDVBItemMux::m_Parse(const unsigned char* data, int remaining)
+{
+    DeleteAll();
+    // Header bytes behind the loop's end are not read; the fields stay 0.
+    auto at = [data, remaining](int i) { return i < remaining ? data[i] : 0; };
+    m_transportStreamId = static_cast<unsigned short>((at(0) << 8) | at(1));
+    m_originalNetworkId = static_cast<unsigned short>((at(2) << 8) | at(3));
+    const int loopLength = ((at(4) & 0x0F) << 8) | at(5);
+    const int available = std::max(0, remaining - kMuxHeaderSize);
+    // Each mux's loop starts without a specifier, as every loop does.
+    TCDescriptor loop(m_handle);
+    loop.Parse(data + kMuxHeaderSize, std::min(loopLength, available), m_descriptors,
+               static_cast<unsigned char>(m_tableId));
+    return loopLength + kMuxHeaderSize;
+}
+
+IDescLogicalChannel* TCDVBItemMux::LCNDescriptor(unsigned short serviceId, unsigned int tag, ECountryCode country) const
+{
+    switch (tag) {
+    case 0x82: case 0x83: case 0x87: case 0x88: case 0xB0: case 0xD3: break;
+    default: return nullptr;
+    }
+    const bool anyCountry = country == kAnyCountry;
+    IDescLogicalChannel* best = nullptr;
+    int lowestList = -1;
+    for (int i = 0; i < m_descriptors.NumOfDescriptors(static_cast<int>(tag)); ++i) {
+        TCBaseDesc* desc = m_descriptors.Descriptor(static_cast<int>(tag), static_cast<unsigned int>(i));
+        auto* lcn = dynamic_cast<IDescLogicalChannel*>(desc);
+        if (!lcn)
+            continue;
+        int listId = -1;
+        if (tag == 0x87) {
+            ECountryCode listCountry = 0xFFFFFF;
+            const auto* v2 = dynamic_cast<const IDescLogicalChannelV2*>(desc);
+            if (!v2 || !v2->GetChannelListCountryId(listCountry, listId)) {
+                listCountry = 0xFFFFFF;
+                listId = -1;
+            }
+            if (anyCountry) {
+                if (lowestList == -1 || listId < lowestList) {
+                    lowestList = listId;
+                    best = lcn;
+                }
+            } else if (listCountry == country && !best) {
+                best = lcn;
+            }
+        }
+        if (lcn->CheckServiceId(serviceId, country)) {
+            if (tag != 0x87 || !anyCountry)
+                return lcn;
+            if (listId == lowestList)
+                best = lcn;
+        }
+    }
+    return best;
+}
+
+IDescLogicalChannel* TCDVBItemMux::LCNDescriptorbyPriority(bool useV2, unsigned short serviceId, ECountryCode country,
+                                                           bool anyCountry) const
+{
+    IDescLogicalChannel* found = nullptr;
+    if (useV2) {
+        found = LCNDescriptor(serviceId, 0x87, country);
+        if (!found && anyCountry)
+            found = LCNDescriptor(serviceId, 0x87, kAnyCountry);
+    }
+    for (unsigned int tag : {0x83u, 0x82u, 0xD3u, 0xB0u}) {
+        if (found)
+            break;
+        found = LCNDescriptor(serviceId, tag, country);
+    }
+    return found;
+}
+
+// ---------------------------------------------------------------- instance
+
+TCDVBNITInstance::TCDVBNITInstance(unsigned char tableId, unsigned short networkId, const ZUMHandle& handle)
+    : m_handle(handle), m_tableId(tableId), m_networkId(networkId)
+{
+}
+
+TCDVBNITInstance::~TCDVBNITInstance()
+{
+    DeleteAll();
+}
+
+void TCDVBNITInstance::DeleteAll()
+{
+    m_descriptors.DeleteAll();
+    m_muxes.clear();
+    m_muxesBySection.clear();
+}
+
+bool TCDVBNITInstance::Parse(const unsigned char* body, int length, char version, int section, int last,
+                             unsigned int crc, bool /*currentNext*/)
+{
+    const int result = t_CheckVersion(version, section, last, crc);
+    if (result != TABLE_FIRST && result != TABLE_ADD && result != TABLE_CHANGED)
+        return false;
+    m_Parse(body, length, section);
+    if (!IsValid())
+        return false;
+    ++m_completeCount;
+    return true;
+}
+
+void TCDVBNITInstance::m_Parse(const unsigned char* body, int length, int section)
+{
+    const int end = length - 4;
+    const int networkLength = length >= 2 ? ((body[0] & 0x0F) << 8) | body[1] : 0;
+    // Network descriptors of all sections collect in one container; a loop
+    // longer than the section is read up to the CRC_32.
+    TCDescriptor loop(m_handle);
+    loop.Parse(body + 2, std::min(networkLength, std::max(0, end - 2)), m_descriptors, m_tableId);
+
+    // A section parsed again (after RemoveSection) replaces its muxes.
+    std::vector<std::unique_ptr<TCDVBItemMux>>& muxes = m_muxesBySection[static_cast<unsigned char>(section)];
+    muxes.clear();
+    for (int position = networkLength + 4; position < end;) {
+        muxes.emplace_back(new TCDVBItemMux(m_tableId, m_handle));
+        position += muxes.back()->Parse(body + position, end - position);
+    }
+    m_muxes.clear();
+    for (const auto& entry : m_muxesBySection)
+        for (const auto& mux : entry.second)
+            m_muxes.push_back(mux.get());
+}
+
+TCDVBItemMux* TCDVBNITInstance::DVBItemMuxOfIndex(unsigned int index) const
+{
+    return index < m_muxes.size() ? m_muxes[index] : nullptr;
+}
+
+TCDVBItemMux* TCDVBNITInstance::DVBItemMux(unsigned short transportStreamId) const
+{
+    const auto it = std::find_if(m_muxes.begin(), m_muxes.end(), [transportStreamId](const TCDVBItemMux* m) {
+        return m->TransportStreamId() == transportStreamId;
+    });
+    return it == m_muxes.end() ? nullptr : *it;
+}
+
+TCDVBItemMux* TCDVBNITInstance::DVBItemMux(unsigned short transportStreamId, unsigned short originalNetworkId) const
+{
+    const auto it = std::find_if(m_muxes.begin(), m_muxes.end(), [=](const TCDVBItemMux* m) {
+        return m->TransportStreamId() == transportStreamId && m->OriginalNetworkId() == originalNetworkId;
+    });
+    return it == m_muxes.end() ? nullptr : *it;
+}
+
+unsigned int TCDVBNITInstance::GetCurrentNITCount(unsigned char* tableId, unsigned int* count) const
+{
+    if (tableId)
+        *tableId = m_tableId;
+    if (count)
+        *count = m_completeCount;
+    return m_completeCount;
+}
+
+// ---------------------------------------------------------------- parser
+
+TCDVBNITParser::TCDVBNITParser(int tableId, const ZUMHandle& handle) : TCSectionParser(tableId, handle) {}
+
+TCDVBNITParser::~TCDVBNITParser()
+{
+    Initialize();
+}
+
+void TCDVBNITParser::t_Initialize()
+{
+    m_instances.clear();
+    m_allSubtablesReceived = false;
+}
+
+void TCDVBNITParser::m_CheckAllSubtableReceived()
+{
+    m_allSubtablesReceived = std::all_of(m_instances.begin(), m_instances.end(),
+                                         [](const auto& entry) { return entry.second->IsValid(); });
+}
+
+bool TCDVBNITParser::t_Parse(const unsigned char* body, int length)
+{
+    std::unique_ptr<TCDVBNITInstance>& instance = m_instances[m_tableIdExtension];
+    if (instance) {
+        // Checked before the section is handled, on a repetition of a complete sub-table.
+        if (instance->IsValid())
+            m_CheckAllSubtableReceived();
+    } else {
+        instance.reset(new TCDVBNITInstance(m_tableId, m_tableIdExtension, m_handle));
+    }
+    return instance->Parse(body, length, m_versionNumber, m_sectionNumber, m_lastSectionNumber, m_crc,
+                           m_currentNextIndicator != 0);
+}
+
+TCDVBNITInstance* TCDVBNITParser::GetFirstInstance() const
+{
+    return m_instances.empty() ? nullptr : m_instances.begin()->second.get();
+}
+
+TCDVBNITInstance* TCDVBNITParser::GetInstance(unsigned short networkId) const
+{
+    const auto it = m_instances.find(networkId);
+    return it == m_instances.end() ? nullptr : it->second.get();
+}
+
+TCDVBNITInstance* TCDVBNITParser::m_Select(unsigned short networkId) const
+{
+    if (m_tableId == 0x40)
+        return GetFirstInstance();
+    if (m_tableId == 0x41)
+        return GetInstance(networkId);
+    return nullptr;
+}
+
+int TCDVBNITParser::NetworkId() const
+{
+    return (m_tableId == 0x40 && !m_instances.empty()) ? m_instances.begin()->first : -1;
+}
+
+void TCDVBNITParser::NetworkIds(std::list<unsigned short>& ids) const
+{
+    for (const auto& entry : m_instances)
+        ids.push_back(entry.first);
+}
+
+bool TCDVBNITParser::IsRecv(unsigned short networkId) const
+{
+    if (!m_isParsed)
+        return false;
+    const TCDVBNITInstance* instance = m_Select(networkId);
+    return !instance || instance->IsValid();
+}
+
+TCDVBItemMux* TCDVBNITParser::DVBItemMux(unsigned short transportStreamId, unsigned short networkId) const
+{
+    const TCDVBNITInstance* instance = m_Select(networkId);
+    return instance ? instance->DVBItemMux(transportStreamId) : nullptr;
+}
+
+int TCDVBNITParser::NumOfDVBItemMux(unsigned short networkId) const
+{
+    const TCDVBNITInstance* instance = m_Select(networkId);
+    return instance ? instance->NumOfDVBItemMux() : 0;
+}
+
+TCDVBItemMux* TCDVBNITParser::DVBItemMuxOfIndex(int index, unsigned short networkId) const
+{
+    const TCDVBNITInstance* instance = m_Select(networkId);
+    return (instance && index >= 0) ? instance->DVBItemMuxOfIndex(static_cast<unsigned int>(index)) : nullptr;
+}
+
+int TCDVBNITParser::DescriptorsLength(unsigned short networkId) const
+{
+    const TCDVBNITInstance* instance = m_Select(networkId);
+    return instance ? instance->NumOfDescriptors() : 0;
+}
+
+TCBaseDesc* TCDVBNITParser::Descriptor(int tag, unsigned short networkId) const
+{
+    const TCDVBNITInstance* instance = m_Select(networkId);
+    return instance ? instance->Descriptor(tag, 0) : nullptr;
+}
+
+bool TCDVBNITParser::GetDescriptor(std::list<TCBaseDesc*>* list, unsigned short networkId) const
+{
+    const TCDVBNITInstance* instance = m_Select(networkId);
+    return instance ? instance->GetDescriptor(list) : false;
+}
