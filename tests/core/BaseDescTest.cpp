@@ -2,6 +2,7 @@
 
 #include <list>
 #include <memory>
+#include <typeinfo>
 
 #include "core/BaseDesc.h"
 #include "core/DescExtension.h"
@@ -20,8 +21,7 @@ namespace {
 class CountingDesc : public TCBaseDesc {
 public:
     explicit CountingDesc(int consumedDelta = 0) : TCBaseDesc(0x4D), m_delta(consumedDelta) {}
-    int hookRuns = 0;
-    int firstByte = -1;
+    int hookRuns = 0, firstByte = -1;
     void DeleteAll() override {}
     TCBaseDesc* Fork() const override { return t_ForkAs(new CountingDesc(m_delta)); }
 
@@ -37,25 +37,27 @@ private:
     int m_delta;
 };
 
-std::unique_ptr<TCBaseDesc> Decoded(TCBaseDesc* d, const Bytes& raw)
+// Made from its raw bytes, as a default object unless another one is given.
+TCBaseDesc* Decoded(const Bytes& raw, TCBaseDesc* d = nullptr)
 {
+    d = d ? d : new TCDescDefault(raw[0]);
     d->Parse(raw.data());
-    return std::unique_ptr<TCBaseDesc>(d);
+    return d;
+}
+
+Bytes RawOf(const TCBaseDesc& d)
+{
+    unsigned char b[300];
+    int n = sizeof b;
+    return d.GetDescriptor(b, &n) ? Bytes(b, b + n) : Bytes();
 }
 
 } // namespace
 
-TEST(BaseDesc, RawCopyAndLengths)
+TEST(BaseDesc, RawCopyLengthsAndHook)
 {
-    struct Case {
-        Bytes raw;
-        int parseResult;
-        bool hasCopy;
-    } cases[] = {
-        {Desc(0x4D, {}), 2, false},
-        {Desc(0x4D, {0x01}), 3, true},
-        {Desc(0x4D, Bytes(255, 0xAB)), 257, true},
-    };
+    struct Case { Bytes raw; int parseResult; bool hasCopy; } cases[] = {
+        {Desc(0x4D, {}), 2, false}, {Desc(0x4D, {0x01}), 3, true}, {Desc(0x4D, Bytes(255, 0xAB)), 257, true}};
     for (const Case& c : cases) {
         SCOPED_TRACE(c.raw.size());
         CountingDesc d;
@@ -65,170 +67,117 @@ TEST(BaseDesc, RawCopyAndLengths)
         EXPECT_EQ(d.Length(), c.parseResult);
         EXPECT_EQ(d.hookRuns, c.hasCopy ? 1 : 0);
         EXPECT_TRUE(log.Lines().empty());
-
         unsigned char buffer[300];
         int size = sizeof buffer;
         EXPECT_EQ(d.GetDescriptor(buffer, &size), c.hasCopy);
-        if (c.hasCopy) {
-            EXPECT_EQ(Bytes(buffer, buffer + size), c.raw);
-            // One byte short of the capacity: refused, size untouched.
-            size = static_cast<int>(c.raw.size()) - 1;
-            EXPECT_FALSE(d.GetDescriptor(buffer, &size));
-            EXPECT_EQ(size, static_cast<int>(c.raw.size()) - 1);
-        } else {
-            EXPECT_EQ(size, 0);
-        }
+        EXPECT_EQ(Bytes(buffer, buffer + size), c.hasCopy ? c.raw : Bytes());
+        // Exact fit, then one byte short: refused, size untouched.
+        size = static_cast<int>(c.raw.size());
+        EXPECT_EQ(d.GetDescriptor(buffer, &size), c.hasCopy);
+        size = static_cast<int>(c.raw.size()) - 1;
+        EXPECT_FALSE(d.GetDescriptor(buffer, &size));
+        EXPECT_EQ(size, c.hasCopy ? static_cast<int>(c.raw.size()) - 1 : 0);
     }
-}
 
-TEST(BaseDesc, HookWorksOnItsOwnCopyAndMismatchWarns)
-{
-    Bytes raw = Desc(0x4D, {0x11, 0x22, 0x33});
     CountingDesc d(-1);
     zumtest::LogCapture log;
-    EXPECT_EQ(d.Parse(raw.data()), 5);
+    EXPECT_EQ(d.Parse(Desc(0x4D, {0x11, 0x22, 0x33}).data()), 5);
     EXPECT_EQ(log.Lines(3), std::vector<std::string>{"[Warning] Descriptor[0x4d] length mismatch!inLen=3, outLen=2"});
     EXPECT_EQ(d.firstByte, 0x11);
-
     // A second Parse replaces the raw copy.
-    raw = Desc(0x4D, {0x44});
-    d.Parse(raw.data());
-    unsigned char buffer[8];
-    int size = sizeof buffer;
-    ASSERT_TRUE(d.GetDescriptor(buffer, &size));
-    EXPECT_EQ(size, 3);
-    EXPECT_EQ(buffer[2], 0x44);
-}
+    d.Parse(Desc(0x4D, {0x44}).data());
+    EXPECT_EQ(RawOf(d), Desc(0x4D, {0x44}));
 
-TEST(BaseDesc, FlagEqual)
-{
-    auto a = Decoded(new CountingDesc, Desc(0x4D, {1, 2, 3}));
-    auto b = Decoded(new CountingDesc, Desc(0x4D, {1, 2, 3}));
-    auto c = Decoded(new CountingDesc, Desc(0x4D, {1, 2, 4}));
-    auto d = Decoded(new CountingDesc, Desc(0x4D, {1, 2}));
-    auto zeroA = Decoded(new TCDescDefault(0x10), Desc(0x10, {}));
-    auto zeroB = Decoded(new TCDescDefault(0x99), Desc(0x99, {}));
-    EXPECT_TRUE(a->FlagEqual(b.get()));
-    EXPECT_FALSE(a->FlagEqual(c.get()));
-    EXPECT_FALSE(a->FlagEqual(d.get()));
-    EXPECT_TRUE(zeroA->FlagEqual(zeroB.get()));
-
-    zumtest::LogCapture log;
-    EXPECT_FALSE(a->FlagEqual(nullptr));
-    EXPECT_TRUE(log.Contains("Failed: pInDesc"));
+    log.Clear();
     unsigned char* none = nullptr;
     int size = 10;
-    EXPECT_FALSE(a->GetDescriptor(none, &size));
+    EXPECT_FALSE(d.GetDescriptor(none, &size));
     EXPECT_TRUE(log.Contains("Failed: pBuff"));
 }
 
-TEST(BaseDesc, ForkDecodesTheCopyAgain)
+TEST(BaseDesc, FlagEqualAndFork)
 {
-    auto original = Decoded(new CountingDesc, Desc(0x4D, {9, 8, 7}));
-    std::unique_ptr<TCBaseDesc> clone(original->Fork());
+    std::unique_ptr<TCBaseDesc> a(Decoded(Desc(0x4D, {1, 2, 3}), new CountingDesc));
+    std::unique_ptr<TCBaseDesc> same(Decoded(Desc(0x4D, {1, 2, 3}))), other(Decoded(Desc(0x4D, {1, 2, 4}))),
+        shorter(Decoded(Desc(0x4D, {1, 2}))), zeroA(Decoded(Desc(0x10, {}))), zeroB(Decoded(Desc(0x99, {})));
+    EXPECT_TRUE(a->FlagEqual(same.get()));
+    EXPECT_FALSE(a->FlagEqual(other.get()));
+    EXPECT_FALSE(a->FlagEqual(shorter.get()));
+    EXPECT_TRUE(zeroA->FlagEqual(zeroB.get())); // whatever their tags
+    zumtest::LogCapture log;
+    EXPECT_FALSE(a->FlagEqual(nullptr));
+    EXPECT_TRUE(log.Contains("Failed: pInDesc"));
+
+    // A clone decodes the raw copy again and outlives its original.
+    std::unique_ptr<TCBaseDesc> clone(a->Fork());
     auto* counted = dynamic_cast<CountingDesc*>(clone.get());
     ASSERT_NE(counted, nullptr);
     EXPECT_EQ(counted->hookRuns, 1);
-    EXPECT_EQ(counted->firstByte, 9);
-    EXPECT_TRUE(clone->FlagEqual(original.get()));
-
-    // Deleting the original leaves the clone whole.
-    original.reset();
-    unsigned char buffer[8];
-    int size = sizeof buffer;
-    EXPECT_TRUE(clone->GetDescriptor(buffer, &size));
-    EXPECT_EQ(Bytes(buffer, buffer + size), Desc(0x4D, {9, 8, 7}));
+    EXPECT_EQ(counted->firstByte, 1);
+    a.reset();
+    EXPECT_EQ(RawOf(*clone), Desc(0x4D, {1, 2, 3}));
 
     // A clone of an object without raw copy is a new empty object.
     CountingDesc empty;
     std::unique_ptr<TCBaseDesc> emptyClone(empty.Fork());
-    EXPECT_EQ(dynamic_cast<CountingDesc*>(emptyClone.get())->hookRuns, 0);
+    EXPECT_EQ(dynamic_cast<CountingDesc&>(*emptyClone).hookRuns, 0);
     EXPECT_EQ(emptyClone->TableId(), -1);
 }
 
 TEST(DescExtension, TagFollowsTheExtensionByte)
 {
-    TCDescExtension fresh;
-    EXPECT_EQ(fresh.Tag(), -1);
-
-    struct Case {
-        Bytes raw;
-        int tag;
-    } cases[] = {
-        {Desc(0x7F, {}), -1},
-        {Desc(0x7F, {0x08}), 0x7F08},
-        {Desc(0x7F, {0xA3, 1, 2}), 0x7FA3},
-        {Desc(0x7F, {0xFF}), 0x7FFF},
-    };
+    EXPECT_EQ(TCDescExtension().Tag(), -1);
+    EXPECT_EQ(TCDescExtension::ProcessExtensionDescriptor(nullptr, 0), nullptr);
+    // The byte behind a zero-length extension belongs to the next descriptor (0x04 would pick a class).
+    struct Case { Bytes raw; int tag; } cases[] = {
+        {Desc(0x7F, {}), -1}, {Bytes{0x7F, 0x00, 0x04}, -1}, {Desc(0x7F, {0x08}), 0x7F08},
+        {Desc(0x7F, {0xA3, 1, 2}), 0x7FA3}, {Desc(0x7F, {0xFF}), 0x7FFF}};
     for (const Case& c : cases) {
         SCOPED_TRACE(c.tag);
         std::unique_ptr<TCBaseDesc> d(TCDescExtension::ProcessExtensionDescriptor(c.raw.data(), 0xFFFFFFFF));
         ASSERT_NE(d, nullptr);
-        EXPECT_NE(dynamic_cast<TCDescExtension*>(d.get()), nullptr);
-        EXPECT_EQ(d->Parse(c.raw.data()), static_cast<int>(c.raw.size()));
+        const TCBaseDesc& made = *d;
+        EXPECT_EQ(typeid(made), typeid(TCDescExtension));
+        EXPECT_EQ(d->Parse(c.raw.data()), c.raw[1] + 2);
         EXPECT_EQ(d->Tag(), c.tag);
-        std::unique_ptr<TCBaseDesc> clone(d->Fork());
-        EXPECT_EQ(clone->Tag(), c.tag);
+        EXPECT_EQ(std::unique_ptr<TCBaseDesc>(d->Fork())->Tag(), c.tag);
     }
-    EXPECT_EQ(TCDescExtension::ProcessExtensionDescriptor(nullptr, 0), nullptr);
 }
 
-TEST(DescriptorHash, ByTagAndByArrival)
+TEST(DescriptorHash, ByTagByArrivalAndOwnership)
 {
-    TCDescriptorHash hash;
-    const Bytes a = Desc(0x48, {1}), b = Desc(0x4D, {2}), c = Desc(0x48, {3});
-    for (const Bytes* raw : {&a, &b, &c}) {
-        auto* d = new TCDescDefault((*raw)[0]);
-        d->Parse(raw->data());
-        hash.Add(d);
-    }
-    hash.Add(nullptr);
-    EXPECT_EQ(hash.NumOfDescriptors(), 3);
-    EXPECT_EQ(hash.NumOfDescriptors(0x48), 2);
-    EXPECT_EQ(hash.NumOfDescriptors(0x4D), 1);
-    EXPECT_EQ(hash.NumOfDescriptors(0x99), 0);
-    EXPECT_EQ(hash.Descriptor(0x4D, 0), hash.DescriptorByIndex(1));
-    EXPECT_EQ(hash.Descriptor(0x4D, 1), nullptr);
-    EXPECT_EQ(hash.Descriptor(0x48, 1), hash.DescriptorByIndex(2));
-    EXPECT_EQ(hash.Descriptor(0x77, 0), nullptr);
-    EXPECT_EQ(hash.DescriptorByIndex(3), nullptr);
-}
-
-TEST(DescriptorHash, ClonesAndCopiesShareNothing)
-{
-    auto make = [](const Bytes& raw) {
-        auto* d = new TCDescDefault(raw[0]);
-        d->Parse(raw.data());
-        return d;
-    };
     auto original = std::make_unique<TCDescriptorHash>();
-    original->Add(make(Desc(0x48, {1, 2})));
-    original->Add(make(Desc(0x4A, {3})));
+    TCDescriptorHash& h = *original;
+    for (const Bytes& raw : {Desc(0x48, {1, 2}), Desc(0x4D, {2}), Desc(0x48, {3})})
+        h.Add(Decoded(raw));
+    h.Add(nullptr);
+    EXPECT_EQ(h.NumOfDescriptors(), 3);
+    EXPECT_EQ(h.NumOfDescriptors(0x48), 2);
+    EXPECT_EQ(h.NumOfDescriptors(0x99), 0);
+    EXPECT_EQ(h.Descriptor(0x4D, 0), h.DescriptorByIndex(1)); // the first of its tag, though others came before
+    EXPECT_EQ(h.Descriptor(0x4D, 1), nullptr);
+    EXPECT_EQ(h.Descriptor(0x48, 1), h.DescriptorByIndex(2));
+    EXPECT_EQ(h.Descriptor(0x77, 0), nullptr);
+    EXPECT_EQ(h.DescriptorByIndex(3), nullptr);
 
     std::list<TCBaseDesc*> clones;
-    ASSERT_TRUE(original->GetDescriptor(&clones));
-    ASSERT_EQ(clones.size(), 2u);
-    EXPECT_NE(clones.front(), original->DescriptorByIndex(0));
-
+    ASSERT_TRUE(h.GetDescriptor(&clones));
+    ASSERT_EQ(clones.size(), 3u);
+    EXPECT_NE(clones.front(), h.DescriptorByIndex(0));
     TCDescriptorHash copy;
-    copy.Add(make(Desc(0x99, {})));
-    copy = *original;
-    TCDescriptorHash constructed(*original);
-    EXPECT_TRUE(copy == *original);
-    EXPECT_TRUE(constructed == *original);
-    EXPECT_NE(copy.DescriptorByIndex(0), original->DescriptorByIndex(0));
+    copy.Add(Decoded(Desc(0x99, {})));
+    copy = h;
+    TCDescriptorHash constructed(h);
+    EXPECT_TRUE(copy == h);
+    EXPECT_TRUE(constructed == h);
+    EXPECT_NE(copy.DescriptorByIndex(0), h.DescriptorByIndex(0));
 
+    // Copies and clones outlive the container they came from.
     original.reset();
-    EXPECT_EQ(copy.NumOfDescriptors(0x48), 1);
-    unsigned char buffer[8];
-    int size = sizeof buffer;
-    EXPECT_TRUE(copy.DescriptorByIndex(0)->GetDescriptor(buffer, &size));
-    EXPECT_EQ(size, 4);
-    for (TCBaseDesc* d : clones) {
-        size = sizeof buffer;
-        EXPECT_TRUE(d->GetDescriptor(buffer, &size));
-        delete d;
-    }
+    EXPECT_EQ(copy.NumOfDescriptors(0x48), 2);
+    EXPECT_EQ(RawOf(*copy.DescriptorByIndex(0)), Desc(0x48, {1, 2}));
+    for (TCBaseDesc* clone : clones)
+        EXPECT_FALSE(RawOf(*std::unique_ptr<TCBaseDesc>(clone)).empty());
 
     TCDescriptorHash empty;
     std::list<TCBaseDesc*> untouched{nullptr};
@@ -245,7 +194,7 @@ TEST(DescriptorDataTranslator, BitsBytesAndBounds)
     const unsigned char data[] = {0xA5, 0x3C};
     TCDescriptorDataTranslator all(data, 2);
     std::string bits;
-    for (int i = 0; i < 16; ++i)
+    while (bits.size() < 16)
         bits += all.GetBits(1) ? '1' : '0';
     EXPECT_EQ(bits, "1010010100111100");
     EXPECT_EQ(all.GetBits(1), 0u);
@@ -267,6 +216,5 @@ TEST(DescriptorDataTranslator, BitsBytesAndBounds)
     EXPECT_EQ(log.Lines(6), std::vector<std::string>{"Reading out of bonds!"});
 
     const unsigned char wide[] = {0x80, 0, 0, 0, 0, 0, 0, 0x01};
-    TCDescriptorDataTranslator w(wide, 8);
-    EXPECT_EQ(w.GetBits(64), 0x8000000000000001ull);
+    EXPECT_EQ(TCDescriptorDataTranslator(wide, 8).GetBits(64), 0x8000000000000001ull);
 }

@@ -20,9 +20,7 @@ std::string Kind(const TCBaseDesc* d)
         return "null";
     if (dynamic_cast<const TCDescExtension*>(d))
         return "extension";
-    if (dynamic_cast<const TCDescDefault*>(d))
-        return "default";
-    return "decoded";
+    return dynamic_cast<const TCDescDefault*>(d) ? "default" : "decoded";
 }
 
 using Factory = std::function<TCDescConfBase*()>;
@@ -38,97 +36,60 @@ const Factory kPsiKR = [] { return new TCDescConfPsiKR(); };
 const Factory kPSIP = [] { return new TCDescConfPSIP(); };
 const Factory kDS = [] { return new TCDescConfDS(); };
 
+enum BinderState { kBinder, kNoBinder, kNoBinderAsserts };
+
 } // namespace
 
 // Which kind of object each factory answers for tags whose classes are not
-// decoded here: a default object, null (skipped), or an extension.
+// decoded here: a default object, null (skipped), or an extension; and which
+// of those answers need the binder.
 TEST(DescConf, FallbacksByFactoryAndTag)
 {
-    struct Case {
-        const char* name;
-        Factory factory;
-        int tag;
-        unsigned int pds;
-        unsigned int binderPds;
-        ECountry country;
-        const char* kind;
-    } cases[] = {
-        {"SDT tag 0x56 is below the private range", kDVB, 0x56, 0, 0, ECOUNTRY_NONE, "default"},
-        {"SI extension", kDVB, 0x7F, 0, 0, ECOUNTRY_NONE, "extension"},
-        {"SI tag 0xFF is not private", kDVB, 0xFF, 0, 0, ECOUNTRY_NONE, "default"},
-        {"SI private tag without a row is skipped", kDVB, 0x89, 0x28, 0, ECOUNTRY_NONE, "null"},
-        {"SI private tag of an unknown specifier", kDVB, 0x90, 0x1234, 0, ECOUNTRY_NONE, "null"},
-        {"GTPL holds nothing it does not know", kDVB, 0xCC, 0, 0x62E1, ECOUNTRY_NONE, "null"},
-        {"Astra rows under specifier 1", kAstra, 0x88, 1, 0, ECOUNTRY_NONE, "default"},
-        {"Astra rows by the binder's specifier 1", kAstra, 0x99, 0, 1, ECOUNTRY_NONE, "default"},
-        {"Astra other specifier follows the default rule", kAstra, 0x88, 2, 1, ECOUNTRY_NONE, "null"},
-        {"Astra non-private", kAstra, 0x42, 0, 0, ECOUNTRY_NONE, "default"},
-        {"ISDB private tags go by tag alone", kISDB, 0xC4, 0, 0, ECOUNTRY_NONE, "default"},
-        {"ISDB SI extension", kISDB, 0x7F, 0, 0, ECOUNTRY_NONE, "extension"},
-        {"JPN falls back to ISDB", kJPN, 0xFA, 0, 0, ECOUNTRY_NONE, "default"},
-        {"PMT tag 0x48 is no service descriptor", kPsiDVB, 0x48, 0, 0, ECOUNTRY_NONE, "default"},
-        {"PMT tag 0xC1 in a DVB country", kPsiDVB, 0xC1, 0, 0, ECOUNTRY_NONE, "default"},
-        {"PMT extension", kPsiDVB, 0x7F, 0, 0, ECOUNTRY_NONE, "extension"},
-        {"PMT 0xD0 under another specifier", kPsiDVB, 0xD0, 0x28, 0, ECOUNTRY_NONE, "null"},
-        {"PMT 0xD0 under FSAT without its class", kPsiDVB, 0xD0, 0x46534154, 0, ECOUNTRY_NONE, "null"},
-        {"PMT 0x98 in Turkey without its class", kPsiDVB, 0x98, 0, 0x011FFFFF, ECOUNTRY_TURKEY, "null"},
-        {"PMT 0xA0 in China without its class", kPsiDVB, 0xA0, 0, 0, ECOUNTRY_CHINA, "null"},
-        {"ISDB PMT falls back to the DVB PMT", kPsiISDB, 0x7F, 0, 0, ECOUNTRY_NONE, "extension"},
-        {"ATSC PMT has no extension row", kPsiATSC, 0x7F, 0, 0, ECOUNTRY_NONE, "default"},
-        {"KR PMT", kPsiKR, 0x88, 0, 0, ECOUNTRY_NONE, "default"},
-        {"PSIP", kPSIP, 0xA0, 0, 0, ECOUNTRY_NONE, "default"},
-        {"AIT", kDS, 0x00, 0, 0, ECOUNTRY_NONE, "default"},
+    struct Case { const char* name; Factory factory; int tag; unsigned pds, binderPds; ECountry country;
+                  BinderState binder; const char* kind; } cases[] = {
+        {"SDT tag 0x56 is below the private range", kDVB, 0x56, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
+        {"SI extension", kDVB, 0x7F, 0, 0, ECOUNTRY_NONE, kBinder, "extension"},
+        {"SI tag 0xFF is not private", kDVB, 0xFF, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
+        {"SI private tag without a row is skipped", kDVB, 0x89, 0x28, 0, ECOUNTRY_NONE, kBinder, "null"},
+        {"SI private tag of an unknown specifier", kDVB, 0x90, 0x1234, 0, ECOUNTRY_NONE, kBinder, "null"},
+        {"GTPL holds nothing it does not know", kDVB, 0xCC, 0, 0x62E1, ECOUNTRY_NONE, kBinder, "null"},
+        {"SI private tag without binder", kDVB, 0x83, 0x28, 0, ECOUNTRY_NONE, kNoBinderAsserts, "null"},
+        {"SI non-private tag needs no binder", kDVB, 0x42, 0, 0, ECOUNTRY_NONE, kNoBinder, "default"},
+        {"Astra rows under specifier 1", kAstra, 0x88, 1, 0, ECOUNTRY_NONE, kBinder, "default"},
+        {"Astra rows by the binder's specifier 1", kAstra, 0x99, 0, 1, ECOUNTRY_NONE, kBinder, "default"},
+        {"Astra other specifier follows the default rule", kAstra, 0x88, 2, 1, ECOUNTRY_NONE, kBinder, "null"},
+        {"Astra non-private", kAstra, 0x42, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
+        {"Astra private tag without binder", kAstra, 0x88, 1, 0, ECOUNTRY_NONE, kNoBinderAsserts, "null"},
+        {"ISDB private tags go by tag alone", kISDB, 0xC4, 0, 0, ECOUNTRY_NONE, kNoBinder, "default"},
+        {"ISDB SI extension", kISDB, 0x7F, 0, 0, ECOUNTRY_NONE, kBinder, "extension"},
+        {"JPN falls back to ISDB", kJPN, 0xFA, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
+        {"PMT tag 0x48 is no service descriptor", kPsiDVB, 0x48, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
+        {"PMT tag 0xC1 in a DVB country", kPsiDVB, 0xC1, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
+        {"PMT extension", kPsiDVB, 0x7F, 0, 0, ECOUNTRY_NONE, kBinder, "extension"},
+        {"PMT 0xD0 under another specifier", kPsiDVB, 0xD0, 0x28, 0, ECOUNTRY_NONE, kBinder, "null"},
+        {"PMT 0xD0 under FSAT without its class", kPsiDVB, 0xD0, 0x46534154, 0, ECOUNTRY_NONE, kBinder, "null"},
+        {"PMT 0x98 in Turkey without its class", kPsiDVB, 0x98, 0, 0x011FFFFF, ECOUNTRY_TURKEY, kBinder, "null"},
+        {"PMT 0xA0 in China without its class", kPsiDVB, 0xA0, 0, 0, ECOUNTRY_CHINA, kBinder, "null"},
+        {"PMT private tag without binder", kPsiDVB, 0x98, 0, 0, ECOUNTRY_NONE, kNoBinder, "null"},
+        {"ISDB PMT falls back to the DVB PMT", kPsiISDB, 0x7F, 0, 0, ECOUNTRY_NONE, kBinder, "extension"},
+        {"ATSC PMT has no extension row", kPsiATSC, 0x7F, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
+        {"KR PMT", kPsiKR, 0x88, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
+        {"PSIP", kPSIP, 0xA0, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
+        {"AIT", kDS, 0x00, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
         zumtest::BinderScope binder;
         binder->privateDataSpecifier = c.binderPds;
         binder->country = c.country;
+        if (c.binder != kBinder)
+            zum_platform::RemoveBinder();
+        zumtest::LogCapture log;
         std::unique_ptr<TCDescConfBase> factory(c.factory());
         const unsigned char raw[] = {static_cast<unsigned char>(c.tag), 1, 0x08};
         std::unique_ptr<TCBaseDesc> d(factory->NewDescriptor(c.tag, raw, c.pds));
         EXPECT_EQ(Kind(d.get()), c.kind);
-        if (d && Kind(d.get()) == "default") {
-            EXPECT_EQ(d->Tag(), c.tag);
-        }
+        if (Kind(d.get()) == "default") { EXPECT_EQ(d->Tag(), c.tag); }
+        EXPECT_EQ(log.Contains("Failed: pBinder"), c.binder == kNoBinderAsserts);
     }
-}
-
-TEST(DescConf, MissingBinderFallbacks)
-{
-    struct Case {
-        const char* name;
-        Factory factory;
-        int tag;
-        unsigned int pds;
-        const char* kind;
-        bool asserts;
-    } cases[] = {
-        {"SI private tag", kDVB, 0x83, 0x28, "null", true},
-        {"SI non-private tag needs no binder", kDVB, 0x42, 0, "default", false},
-        {"Astra private tag", kAstra, 0x88, 1, "null", true},
-        {"PMT private tag with no specifier", kPsiDVB, 0x98, 0, "null", false},
-        {"ISDB private tag needs no binder", kISDB, 0xC4, 0, "default", false},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        zumtest::BinderScope scope;
-        zum_platform::RemoveBinder();
-        zumtest::LogCapture log;
-        std::unique_ptr<TCDescConfBase> factory(c.factory());
-        const unsigned char raw[] = {static_cast<unsigned char>(c.tag), 0};
-        std::unique_ptr<TCBaseDesc> d(factory->NewDescriptor(c.tag, raw, c.pds));
-        EXPECT_EQ(Kind(d.get()), c.kind);
-        EXPECT_EQ(log.Contains("Failed: pBinder"), c.asserts);
-    }
-}
-
-TEST(DescConf, ExtensionOfLengthZeroReadsNoExtensionByte)
-{
-    // The byte behind a zero-length extension belongs to the next descriptor.
-    const unsigned char loop[] = {0x7F, 0x00, 0x13};
-    std::unique_ptr<TCBaseDesc> d(TCDescExtension::ProcessExtensionDescriptor(loop, 0));
-    ASSERT_NE(d, nullptr);
-    EXPECT_EQ(d->Parse(loop), 2);
-    EXPECT_EQ(d->Tag(), -1);
 }

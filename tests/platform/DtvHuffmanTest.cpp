@@ -1,45 +1,29 @@
-#include <algorithm>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 #include <zum-platform/DtvHuffman.h>
 
-namespace {
-
-TEST(DtvHuffman, UncompressedCopiesWithinCapacity)
+TEST(DtvHuffman, CopiesUncompressedWithinCapacityAndRefusesTheRest)
 {
     const unsigned char data[] = {'A', 'B', 'C'};
-    std::vector<unsigned char> target(5, 0xEE);
-    unsigned int length = 5;
+    struct Case { unsigned int type, capacity; bool withData, withTarget, result; unsigned int written; } cases[] = {
+        {0, 5, true, true, true, 3},     {0, 3, true, true, true, 3},  {0, 2, true, true, false, 2},
+        {1, 5, true, true, false, 0},    {2, 5, true, true, false, 0}, {0xFF, 5, true, true, false, 0},
+        {0, 5, false, true, false, 0},   {0, 5, true, false, false, 0},
+    };
     TCDtvHuffman huffman;
-    EXPECT_TRUE(huffman.DecompressString(0, data, sizeof data, target.data(), &length));
-    EXPECT_EQ(length, 3u);
-    EXPECT_EQ(target, (std::vector<unsigned char>{'A', 'B', 'C', 0xEE, 0xEE}));
-
-    std::fill(target.begin(), target.end(), 0xEE);
-    length = 2;
-    EXPECT_FALSE(huffman.DecompressString(0, data, sizeof data, target.data(), &length));
-    EXPECT_EQ(length, 2u);
-    EXPECT_EQ(target, (std::vector<unsigned char>{'A', 'B', 0xEE, 0xEE, 0xEE}));
-}
-
-TEST(DtvHuffman, CodedTypesAndNullsRefused)
-{
-    const unsigned char data[] = {0x12, 0x34};
-    unsigned char target[8] = {};
-    TCDtvHuffman huffman;
-    for (unsigned int type : {1u, 2u, 0xFFu}) {
-        unsigned int length = sizeof target;
-        EXPECT_FALSE(huffman.DecompressString(type, data, sizeof data, target, &length));
-        EXPECT_EQ(length, 0u);
+    for (const Case& c : cases) {
+        SCOPED_TRACE(&c - cases);
+        std::vector<unsigned char> target(5, 0xEE);
+        unsigned int length = c.capacity;
+        EXPECT_EQ(huffman.DecompressString(c.type, c.withData ? data : nullptr, sizeof data,
+                                           c.withTarget ? target.data() : nullptr, &length),
+                  c.result);
+        EXPECT_EQ(length, c.written);
+        for (size_t i = 0; i < target.size(); ++i)
+            EXPECT_EQ(target[i], i < c.written ? data[i] : 0xEE) << i;
     }
-    unsigned int length = sizeof target;
-    EXPECT_FALSE(huffman.DecompressString(0, nullptr, 2, target, &length));
-    EXPECT_EQ(length, 0u);
-    length = sizeof target;
-    EXPECT_FALSE(huffman.DecompressString(0, data, sizeof data, nullptr, &length));
+    unsigned char target[4];
     EXPECT_FALSE(huffman.DecompressString(0, data, sizeof data, target, nullptr));
 }
-
-} // namespace

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <ostream>
 #include <string>
 #include <vector>
 
@@ -12,181 +11,99 @@ namespace {
 using U16 = std::basic_string<unsigned short>;
 using Bytes = std::vector<unsigned char>;
 
-constexpr ELanguageCode kNoLanguage = static_cast<ELanguageCode>(-1);
+constexpr ELanguageCode kNoLang = static_cast<ELanguageCode>(-1);
 
-U16 Units(std::initializer_list<unsigned short> units) { return U16(units); }
-
-struct TextCase {
-    const char* name;
-    Bytes source;
-    U16 expected;
-};
-
-void PrintTo(const TextCase& c, std::ostream* os) { *os << c.name; }
-
-class ConvertText : public ::testing::TestWithParam<TextCase> {};
-
-TEST_P(ConvertText, ToString)
+bool ToString(const Bytes& text, unsigned short& length, U16& out)
 {
-    const TextCase& c = GetParam();
-    Bytes source = c.source;
-    unsigned short length = static_cast<unsigned short>(source.size());
-    U16 out = Units({'x'});
+    Bytes source = text;
     TCUnicodeConverter converter(kZUMDefaultHandle);
-    EXPECT_TRUE(converter.ConvertToUnicode(source.data(), length, out, false, kNoLanguage, true));
-    EXPECT_EQ(out, c.expected);
-    EXPECT_EQ(length, source.size());
+    return converter.ConvertToUnicode(source.empty() ? nullptr : source.data(), length, out, false, kNoLang,
+                                      true);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Tables, ConvertText,
-    ::testing::Values(
-        TextCase{"DefaultAscii", {'N', 'e', 'w', 's'}, Units({'N', 'e', 'w', 's'})},
-        TextCase{"DefaultDiacriticComposes", {'C', 'a', 'f', 0xC2, 'e', ' ', 0xCF, 's'},
-                 Units({'C', 'a', 'f', 0xE9, ' ', 0x161})},
-        TextCase{"DefaultRareLetterKeepsCombiningMark", {0xC8, 'x'}, Units({'x', 0x308})},
-        TextCase{"DefaultSpacingLetters", {0xE9, 0xFB, 0xA4}, Units({0xD8, 0xDF, 0x20AC})},
-        TextCase{"DefaultMarkAtEndDropped", {'a', 0xC2}, Units({'a'})},
-        TextCase{"Iso8859_5", {0x01, 0xB0, 0xD0}, Units({0x410, 0x430})},
-        TextCase{"Iso8859_9", {0x05, 'D', 0xF0, 'a'}, Units({'D', 0x11F, 'a'})},
-        TextCase{"Iso8859_15", {0x0B, 0xA4}, Units({0x20AC})},
-        TextCase{"ThreeByteLatin1", {0x10, 0x00, 0x01, 'A', 0xE9}, Units({'A', 0xE9})},
-        TextCase{"ThreeByteLatin2", {0x10, 0x00, 0x02, 0xB1}, Units({0x105})},
-        TextCase{"Utf16", {0x11, 0x00, 0x41, 0x04, 0x10, 0xD8, 0x3D, 0xDE, 0x00}, Units({'A', 0x410, 0xD83D, 0xDE00})},
-        TextCase{"Utf16OddTailDropped", {0x11, 0x00, 0x41, 0x00}, Units({'A'})},
-        TextCase{"Utf8ThreeByte", {0x15, 'a', 0xE2, 0x82, 0xAC}, Units({'a', 0x20AC})},
-        TextCase{"Utf8FourByteIsPair", {0x15, 0xF0, 0x9F, 0x98, 0x80}, Units({0xD83D, 0xDE00})},
-        TextCase{"Utf8BadByteSkipped", {0x15, 'a', 0xFF, 'b', 0xE2, 0x82}, Units({'a', 'b'})},
-        TextCase{"KsX1001", {0x12, 0xC7, 0xD1}, Units({0xD55C})},
-        TextCase{"Gb2312", {0x13, 0xD6, 0xD0}, Units({0x4E2D})},
-        TextCase{"Big5", {0x14, 0xA4, 0xA4}, Units({0x4E2D})},
-        TextCase{"ControlCodesSingleByte", {'A', 0x86, 'B', 0x87, 0x8A, 'C', 0x00}, Units({'A', 'B', '\n', 'C'})},
-        TextCase{"ControlCodesIn8859", {0x05, 'A', 0x8A, 0x86, 'B'}, Units({'A', '\n', 'B'})},
-        TextCase{"ControlCodesUtf8", {0x15, 'x', 0xEE, 0x82, 0x86, 0xEE, 0x82, 0x8A, 'y'}, Units({'x', '\n', 'y'})},
-        TextCase{"ControlCodesUtf16", {0x11, 0xE0, 0x8A, 0xE0, 0x87, 0x00, 'z'}, Units({'\n', 'z'})},
-        TextCase{"SelectorOnly", {0x15}, U16()}),
-    [](const ::testing::TestParamInfo<TextCase>& info) { return std::string(info.param.name); });
+} // namespace
 
-class RefuseTable : public ::testing::TestWithParam<Bytes> {};
-
-TEST_P(RefuseTable, FalseAndEmpty)
+// The leading bytes pick the table; an unknown table answers false, empty and nothing consumed.
+TEST(UnicodeConverter, TablesByLeadingBytes)
 {
-    Bytes source = GetParam();
-    unsigned short length = static_cast<unsigned short>(source.size());
-    U16 out = Units({'x'});
-    TCUnicodeConverter converter(kZUMDefaultHandle);
-    EXPECT_FALSE(converter.ConvertToUnicode(source.data(), length, out, false, kNoLanguage, true));
-    EXPECT_TRUE(out.empty());
-}
-
-INSTANTIATE_TEST_SUITE_P(Selectors, RefuseTable,
-                         ::testing::Values(Bytes{0x08, 'a'}, Bytes{0x0C, 'a'}, Bytes{0x16, 'a'},
-                                           Bytes{0x1F, 0x01, 'a'}, Bytes{0x10, 0x00, 0x0C, 'a'},
-                                           Bytes{0x10, 0x01, 0x02, 'a'}, Bytes{0x10, 0x00, 0x10},
-                                           Bytes{0x10, 0x00}));
-
-TEST(UnicodeConverter, ReadsNothingBehindSourceLength)
-{
-    // The byte behind the length would complete the mark or the selector.
-    TCUnicodeConverter converter(kZUMDefaultHandle);
-    Bytes mark{'a', 0xC2, 'e'};
+    struct Case { Bytes source; bool ok; U16 expected; } cases[] = {
+        {{'C', 'a', 'f', 0xC2, 'e', ' ', 0xCF, 's'}, true, {'C', 'a', 'f', 0xE9, ' ', 0x161}},
+        // no precomposed form; spacing letters of the default table; a mark at the end is dropped
+        {{0xC8, 'x'}, true, {'x', 0x308}}, {{0xE9, 0xFB, 0xA4}, true, {0xD8, 0xDF, 0x20AC}}, {{'a', 0xC2}, true, {'a'}},
+        {{0x01, 0xB0, 0xD0}, true, {0x410, 0x430}}, {{0x0B, 0xA4}, true, {0x20AC}},
+        {{0x10, 0x00, 0x02, 0xB1}, true, {0x105}}, {{0x12, 0xC7, 0xD1}, true, {0xD55C}},
+        {{0x13, 0xD6, 0xD0}, true, {0x4E2D}}, {{0x14, 0xA4, 0xA4}, true, {0x4E2D}},
+        {{0x11, 0x00, 0x41, 0x04, 0x10, 0xD8, 0x3D, 0xDE, 0x00}, true, {'A', 0x410, 0xD83D, 0xDE00}},
+        {{0x11, 0x00, 0x41, 0x00}, true, {'A'}}, // odd tail dropped
+        {{0x15, 'a', 0xE2, 0x82, 0xAC, 0xF0, 0x9F, 0x98, 0x80}, true, {'a', 0x20AC, 0xD83D, 0xDE00}},
+        {{0x15, 'a', 0xFF, 'b', 0xE2, 0x82}, true, {'a', 'b'}}, // bad byte skipped, cut sequence dropped
+        {{'A', 0x86, 'B', 0x87, 0x8A, 'C', 0x00}, true, {'A', 'B', '\n', 'C'}},
+        {{0x11, 0xE0, 0x8A, 0xE0, 0x87, 0x00, 'z'}, true, {'\n', 'z'}}, {{0x15}, true, {}},
+        {{0x08, 'a'}, false, {}}, {{0x0C, 'a'}, false, {}}, {{0x16, 'a'}, false, {}}, {{0x1F, 0x01, 'a'}, false, {}},
+        {{0x10, 0x00, 0x0C, 'a'}, false, {}}, {{0x10, 0x01, 0x02, 'a'}, false, {}}, {{0x10, 0x00, 0x10}, false, {}},
+        {{0x10, 0x00}, false, {}}, {{}, false, {}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::PrintToString(c.source));
+        unsigned short length = static_cast<unsigned short>(c.source.size());
+        U16 out{'x'};
+        EXPECT_EQ(ToString(c.source, length, out), c.ok);
+        EXPECT_EQ(out, c.expected);
+        EXPECT_EQ(length, c.ok ? c.source.size() : 0);
+    }
     unsigned short length = 2;
     U16 out;
-    EXPECT_TRUE(converter.ConvertToUnicode(mark.data(), length, out, false, kNoLanguage, true));
-    EXPECT_EQ(out, Units({'a'}));
-
-    Bytes selector{0x10, 0x00, 0x01, 'a'};
+    EXPECT_FALSE(ToString({}, length, out)); // null source with a length
+    // Nothing behind the length is read: the next byte would complete the mark or the selector.
     length = 2;
-    EXPECT_FALSE(converter.ConvertToUnicode(selector.data(), length, out, false, kNoLanguage, true));
+    EXPECT_TRUE(ToString({'a', 0xC2, 'e'}, length, out));
+    EXPECT_EQ(out, U16{'a'});
+    length = 2;
+    EXPECT_FALSE(ToString({0x10, 0x00, 0x01, 'a'}, length, out));
+    length = 0;
+    EXPECT_FALSE(ToString({'a'}, length, out));
 }
 
-TEST(UnicodeConverter, NullOrEmptyGivesFalse)
+// Big-endian pairs cut after the last whole character that fits; nothing behind what was written is touched.
+TEST(UnicodeConverter, BufferWithinCapacity)
 {
+    struct Case { Bytes source; unsigned short capacity; bool ok; Bytes written; unsigned short consumed; } cases[] = {
+        {{0x15, 'a', 0xE2, 0x82, 0xAC}, 4, true, {0x00, 'a', 0x20, 0xAC}, 5},
+        {{'H', 'e', 'l', 'l', 'o'}, 4, false, {0x00, 'H', 0x00, 'e'}, 2},
+        {{'H', 'e', 'l'}, 5, false, {0x00, 'H', 0x00, 'e'}, 2}, // odd capacity leaves its last byte
+        {{0x15, 'a', 0xF0, 0x9F, 0x98, 0x80}, 4, false, {0x00, 'a'}, 2}, // a pair is not split
+        {{'a', 0x87}, 2, true, {0x00, 'a'}, 2}, // a dropped tail still counts as consumed
+        {{0x11, 0x00, 'A'}, 1, false, {}, 0}, {{'a'}, 0, false, {}, 0}, {{}, 8, false, {}, 0},
+    };
     TCUnicodeConverter converter(kZUMDefaultHandle);
-    Bytes text{'a', 'b'};
-    U16 out = Units({'x'});
-    unsigned short length = 2;
-    EXPECT_FALSE(converter.ConvertToUnicode(nullptr, length, out, false, kNoLanguage, true));
-    EXPECT_TRUE(out.empty());
-    length = 0;
-    out = Units({'x'});
-    EXPECT_FALSE(converter.ConvertToUnicode(text.data(), length, out, false, kNoLanguage, true));
-    EXPECT_TRUE(out.empty());
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::PrintToString(c.source));
+        Bytes source = c.source;
+        unsigned short length = static_cast<unsigned short>(source.size());
+        Bytes target(c.capacity + 4u, 0xEE), expected = c.written;
+        expected.resize(target.size(), 0xEE);
+        unsigned short size = c.capacity;
+        EXPECT_EQ(converter.ConvertToUnicode(source.data(), length, target.data(), size, false, kNoLang, true), c.ok);
+        EXPECT_EQ(size, c.written.size());
+        EXPECT_EQ(target, expected);
+        EXPECT_EQ(length, c.consumed);
+    }
+    unsigned short length = 1, capacity = 8;
+    unsigned char text[] = {'a'};
+    EXPECT_FALSE(converter.ConvertToUnicode(text, length, nullptr, capacity, false, kNoLang, true));
+    EXPECT_EQ(capacity, 0);
 
-    unsigned char target[8];
-    unsigned short capacity = sizeof target;
-    length = 2;
-    EXPECT_FALSE(converter.ConvertToUnicode(text.data(), length, nullptr, capacity, false, kNoLanguage, true));
-    EXPECT_EQ(capacity, 0);
-    capacity = sizeof target;
-    length = 0;
-    EXPECT_FALSE(converter.ConvertToUnicode(text.data(), length, target, capacity, false, kNoLanguage, true));
-    EXPECT_EQ(capacity, 0);
-    capacity = 0;
-    length = 2;
-    EXPECT_FALSE(converter.ConvertToUnicode(text.data(), length, target, capacity, false, kNoLanguage, true));
-    EXPECT_EQ(capacity, 0);
-}
-
-TEST(UnicodeConverter, EveryLeadByteStaysInBounds)
-{
     // Exact-size heap copies let a checked build see any read behind the text.
-    TCUnicodeConverter converter(kZUMDefaultHandle);
     const Bytes tail{0x00, 0x0F, 0xC2, 0xE2, 0x82, 0xD8};
     for (unsigned int lead = 0; lead <= 0xFF; ++lead) {
         for (size_t size = 1; size <= tail.size() + 1; ++size) {
             Bytes source(size, static_cast<unsigned char>(lead));
             std::copy_n(tail.begin(), size - 1, source.begin() + 1);
-            unsigned short length = static_cast<unsigned short>(source.size());
-            Bytes target(3);
-            unsigned short capacity = static_cast<unsigned short>(target.size());
-            converter.ConvertToUnicode(source.data(), length, target.data(), capacity, false, kNoLanguage, true);
-            EXPECT_LE(capacity, target.size());
-            EXPECT_LE(length, source.size());
+            unsigned short used = static_cast<unsigned short>(source.size()), room = 3;
+            Bytes target(room);
+            converter.ConvertToUnicode(source.data(), used, target.data(), room, false, kNoLang, true);
+            EXPECT_LE(room, target.size());
+            EXPECT_LE(used, source.size());
         }
     }
 }
-
-struct BufferCase {
-    const char* name;
-    Bytes source;
-    unsigned short capacity;
-    bool result;
-    Bytes written;
-    unsigned short consumed;
-};
-
-void PrintTo(const BufferCase& c, std::ostream* os) { *os << c.name; }
-
-class ConvertBuffer : public ::testing::TestWithParam<BufferCase> {};
-
-TEST_P(ConvertBuffer, BigEndianWithinCapacity)
-{
-    const BufferCase& c = GetParam();
-    Bytes source = c.source;
-    unsigned short length = static_cast<unsigned short>(source.size());
-    constexpr unsigned char kUntouched = 0xEE;
-    Bytes target(c.capacity + 4u, kUntouched);
-    unsigned short targetLength = c.capacity;
-    TCUnicodeConverter converter(kZUMDefaultHandle);
-    EXPECT_EQ(converter.ConvertToUnicode(source.data(), length, target.data(), targetLength, false, kNoLanguage, true),
-              c.result);
-    ASSERT_EQ(targetLength, c.written.size());
-    EXPECT_EQ(Bytes(target.begin(), target.begin() + targetLength), c.written);
-    for (size_t i = targetLength; i < target.size(); ++i)
-        EXPECT_EQ(target[i], kUntouched) << "byte " << i;
-    EXPECT_EQ(length, c.consumed);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Capacity, ConvertBuffer,
-    ::testing::Values(
-        BufferCase{"Fits", {0x15, 'a', 0xE2, 0x82, 0xAC}, 4, true, {0x00, 'a', 0x20, 0xAC}, 5},
-        BufferCase{"CutAtCapacity", {'H', 'e', 'l', 'l', 'o'}, 4, false, {0x00, 'H', 0x00, 'e'}, 2},
-        BufferCase{"OddCapacityLeavesLastByte", {'H', 'e', 'l'}, 5, false, {0x00, 'H', 0x00, 'e'}, 2},
-        BufferCase{"PairNotSplit", {0x15, 'a', 0xF0, 0x9F, 0x98, 0x80}, 4, false, {0x00, 'a'}, 2},
-        BufferCase{"NothingFits", {0x11, 0x00, 'A'}, 1, false, {}, 0},
-        BufferCase{"DroppedTailCounts", {'a', 0x87}, 2, true, {0x00, 'a'}, 2}),
-    [](const ::testing::TestParamInfo<BufferCase>& info) { return std::string(info.param.name); });
-
-} // namespace
