@@ -1,130 +1,174 @@
+// Name descriptors: network and bouquet names, and the multilingual network, bouquet, service and component names.
 #include <gtest/gtest.h>
 
-#include <string>
-#include <typeindex>
-
 #include "dvb/DescLoopProbe.h"
+#include "dvb/DescMultilingualNetworkName.h"
 #include "dvb/DescNetworkName.h"
-#include "support/LogCapture.h"
 
-using svctest::Bytes;
-using svctest::Copied;
-using svctest::CopyWith;
-using svctest::Decode;
-using zumtest::Desc;
+using namespace svctest;
 
 namespace {
 
-std::string Bouquet(const TCDescBouquetName& d)
+constexpr unsigned int kEng = 0x656E67, kENG = 0x454E47, kDeu = 0x646575, kFra = 0x667261;
+
+// A lookup whose size is output only: the buffer must hold any name.
+template <class Fn>
+std::string Found(Fn lookup)
 {
-    unsigned char buffer[256];
-    unsigned short size = sizeof buffer;
-    return d.BouquetNameText(buffer, &size) ? std::string(buffer, buffer + size) : "<none>";
+    UChar buffer[255];
+    UShort size = 1;
+    return lookup(buffer, &size) ? std::string(buffer, buffer + size) : "<none>";
 }
+
+const Bytes kNetworkNames = {'e', 'n', 'g', 2, 'N', 'W', 'd', 'e', 'u', 0, 'f', 'r', 'a', 3, 'R', 'e', 's'};
+// eng "ABC" with provider "P", deu "" with provider "Anbieter".
+const Bytes kServiceNames = {'e', 'n', 'g', 1,   'P', 3,   'A', 'B', 'C', 'd', 'e',
+                             'u', 8,   'A', 'n', 'b', 'i', 'e', 't', 'e', 'r', 0};
 
 } // namespace
 
-// Both names are the whole body; the copy refuses nothing but cuts and says false.
+// Both names are the whole body; the copy cuts and says false.
 TEST(DescNetworkName, WholeBodyAndTextCopy)
 {
-    int parsed = 0;
-    auto network = Decode(new TCDescNetworkName(), Desc(0x40, {'A', 's', 't', 'r', 'a'}), &parsed);
-    EXPECT_EQ(parsed, 7);
-    EXPECT_EQ(network->NetworkNameLength(), 5);
-    auto bouquet = Decode(new TCDescBouquetName(), Desc(0x47, {'F', 'r', 'e', 'e'}));
-    EXPECT_EQ(bouquet->Tag(), 0x47);
-    EXPECT_EQ(Bouquet(*bouquet), "Free");
+    ExpectBodies(0x40, [] { return new TCDescNetworkName(); },
+                 [](const TCDescNetworkName& d) {
+                     return Join(d.NetworkNameLength(), TextOf(d, &TCDescNetworkName::NetworkNameText));
+                 },
+                 {{{'A', 's', 't', 'r', 'a'}, "5 Astra"}, {{}, "0 <none>"}});
+    ExpectBodies(0x47, [] { return new TCDescBouquetName(); },
+                 [](const TCDescBouquetName& d) { return TextOf(d, &TCDescBouquetName::BouquetNameText); },
+                 {{{'F', 'r', 'e', 'e'}, "Free"}, {{}, "<none>"}});
 
-    struct Case {
-        int capacity;
-        bool result;
-        int size;
-        std::string bytes;
-    } cases[] = {
-        {6, true, 5, "Astra###"},
-        {5, true, 5, "Astra##"},
-        {4, false, 4, "Astr##"},
-        {0, false, 0, "##"},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.capacity);
-        Copied got = CopyWith<unsigned char, unsigned short>(
-            c.capacity, [&](unsigned char* b, unsigned short* s) { return network->NetworkNameText(b, s); });
-        EXPECT_EQ(got.result, c.result);
-        EXPECT_EQ(got.size, c.size);
-        EXPECT_EQ(got.bytes, c.bytes);
-    }
-    unsigned char buffer[8];
-    EXPECT_FALSE(network->NetworkNameText(buffer, nullptr));
-    unsigned short size = 8;
-    EXPECT_FALSE(network->NetworkNameText(nullptr, &size));
+    auto d = Decode(new TCDescNetworkName(), Desc(0x40, {'A', 's', 't', 'r', 'a'}));
+    ExpectCopies(*d, &TCDescNetworkName::NetworkNameText,
+                 {{6, true, 5, "Astra###"}, {5, true, 5, "Astra##"}, {4, false, 4, "Astr##"}, {0, false, 0, "##"}});
+    UChar buffer[8];
+    EXPECT_FALSE(d->NetworkNameText(buffer, nullptr));
+    UShort size = 8;
+    EXPECT_FALSE(d->NetworkNameText(nullptr, &size));
     EXPECT_EQ(size, 8);
 }
 
-TEST(DescNetworkName, LengthZeroStoresNothing)
-{
-    int parsed = 0;
-    auto network = Decode(new TCDescNetworkName(), Desc(0x40, {}), &parsed);
-    EXPECT_EQ(parsed, 2);
-    unsigned char buffer[8];
-    unsigned short size = 8;
-    EXPECT_FALSE(network->NetworkNameText(buffer, &size));
-    auto bouquet = Decode(new TCDescBouquetName(), Desc(0x47, {}));
-    EXPECT_EQ(Bouquet(*bouquet), "<none>");
-}
-
-// Only the first language is kept; a name that runs over keeps its length
-// without text; the entries behind the first draw no warning.
+// Only the first language is kept; a name that runs over keeps its length without text; the entries behind the
+// first draw no warning.
 TEST(DescMultilingualBouquetName, FirstEntryOnly)
 {
-    struct Case {
-        const char* name;
-        Bytes body;
-        unsigned int language;
-        int length;
-        std::string text;
-        bool warning;
-    } cases[] = {
-        {"two entries", {'e', 'n', 'g', 3, 'O', 'n', 'e', 'd', 'e', 'u', 3, 'E', 'i', 'n'}, 0x656E67, 3, "One", false},
-        {"one entry", {'f', 'r', 'a', 2, 'U', 'n'}, 0x667261, 2, "Un", false},
-        {"name runs over", {'f', 'r', 'a', 9, 'U', 'n'}, 0x667261, 9, "<none>", true},
-        {"no name length", {'f', 'r', 'a'}, 0x667261, 0, "<none>", false},
-        {"language cut", {'f', 'r'}, 0, 0, "<none>", true},
+    auto make = [] { return new TCDescMultilingualBouquetName(); };
+    ExpectBodies(0x5C, make, [](const TCDescMultilingualBouquetName& d) {
+        return Join(d.Tag(), Code(d.Language()), d.BouquetNameLength(), TextOf(d, &TCDescBouquetName::BouquetNameText));
+    }, {
+        {{'e', 'n', 'g', 3, 'O', 'n', 'e', 'd', 'e', 'u', 3, 'E', 'i', 'n'}, "92 eng 3 One"},
+        {{'f', 'r', 'a', 2, 'U', 'n'}, "92 fra 2 Un"},
+        {{'f', 'r', 'a', 9, 'U', 'n'}, "92 fra 9 <none>", "inLen=6, outLen=4"},
+        {{'f', 'r', 'a'}, "92 fra 0 <none>"},
+        {{'f', 'r'}, "92 - 0 <none>", "inLen=2, outLen=0"},
+    });
+    ExpectClone(*Decode(make(), Desc(0x5C, {'e', 'n', 'g', 1, 'X'})));
+    ExpectClone(*Decode(new TCDescBouquetName(), Desc(0x47, {'Y'})));
+}
+
+// A record reads no further than the descriptor: a name that claims more keeps the bytes there are, and an entry
+// head cut short is not an entry. Lookups match languages in any case.
+TEST(DescMultilingualNetworkName, EntriesAndLookup)
+{
+    auto make = [] { return new TCDescMultilingualNetworkName(); };
+    ExpectBodies(0x5B, make, [](const TCDescMultilingualNetworkName& d) {
+        std::string s = Join(d.NumOfNetworkName(), d.NetworkNameDesc(-1) != nullptr);
+        for (int i = 0; d.NetworkNameDesc(i); ++i)
+            s += " " + Code(d.NetworkNameDesc(i)->Language()) + ":" +
+                 TextOf(*d.NetworkNameDesc(i), &CmultiNetworkNameDesc::NetworkNameChar);
+        return s;
+    }, {
+        {kNetworkNames, "3 0 eng:NW deu:<none> fra:Res"},
+        {{'e', 'n', 'g', 9, 'A', 'B'}, "1 0 eng:AB"},
+        {{'e', 'n', 'g', 1, 'A', 'd', 'e'}, "1 0 eng:A", "inLen=7, outLen=5"},
+        {{'e', 'n', 'g'}, "0 0", "inLen=3, outLen=0"},
+        {{}, "0 0"},
+    });
+    auto d = Decode(make(), Desc(0x5B, kNetworkNames));
+    const struct { unsigned int language; std::string name; } cases[] = {
+        {kENG, "NW"}, {0x465241, "Res"}, {kDeu, ""}, {0x737061, "<none>"}};
+    for (const auto& c : cases)
+        EXPECT_EQ(Found([&](UChar* b, UShort* s) { return d->GetNetworkNameByLanguage(c.language, b, s); }), c.name);
+    zumtest::LogCapture log;
+    UShort size = 10;
+    EXPECT_FALSE(d->GetNetworkNameByLanguage(kEng, nullptr, &size));
+    EXPECT_TRUE(log.Contains("Failed: name != __null && size != __null"));
+    ExpectCopies(*d->NetworkNameDesc(0), &CmultiNetworkNameDesc::NetworkNameChar,
+                 {{2, true, 2, "NW##"}, {1, false, 1, "N##"}, {0, false, 0, "##"}});
+}
+
+// The service name matches in any case, the provider name only exactly. The record copies say true also when they
+// cut; an empty copy says whether there was no text.
+TEST(DescMultilingualServiceName, EntriesAndLookups)
+{
+    auto make = [] { return new TCDescMultilingualServiceName(); };
+    ExpectBodies(0x5D, make, [](const TCDescMultilingualServiceName& d) {
+        std::string s = Join(d.NumOfServiceName());
+        for (int i = 0; d.ServiceNameDesc(i); ++i)
+            s += " " + Join(Code(d.ServiceNameDesc(i)->Language()), d.ServiceNameDesc(i)->ServiceProviderNameLength(),
+                            d.ServiceNameDesc(i)->ServiceNameLength());
+        return s;
+    }, {
+        {kServiceNames, "2 eng 1 3 deu 8 0"},
+        {{'e', 'n', 'g', 7, 'P', 'Q'}, "1 eng 2 0"},
+        {{'e', 'n', 'g', 1, 'P', 5, 'S'}, "1 eng 1 1"},
+        {{'e', 'n', 'g', 0}, "1 eng 0 0"},
+        {{'e', 'n'}, "0", "inLen=2, outLen=0"},
+        {{}, "0"},
+    });
+    auto d = Decode(make(), Desc(0x5D, kServiceNames));
+    const struct { bool provider; unsigned int language; std::string text; } cases[] = {
+        {false, kEng, "ABC"}, {false, kENG, "ABC"},     {true, kEng, "P"},        {true, kENG, "<none>"},
+        {false, kDeu, ""},    {true, kDeu, "Anbieter"}, {false, kFra, "<none>"},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        zumtest::LogCapture log;
-        auto d = Decode(new TCDescMultilingualBouquetName(), Desc(0x5C, c.body));
-        EXPECT_EQ(d->Tag(), 0x5C);
-        EXPECT_EQ(d->Language(), c.language);
-        EXPECT_EQ(d->BouquetNameLength(), c.length);
-        EXPECT_EQ(Bouquet(*d), c.text);
-        EXPECT_EQ(log.Contains("length mismatch"), c.warning);
-    }
+    for (const auto& c : cases)
+        EXPECT_EQ(Found([&](UChar* b, UShort* s) {
+                      return c.provider ? d->GetServiceProviderNameByLanguage(c.language, b, s)
+                                        : d->GetServiceNameByLanguage(c.language, b, s);
+                  }), c.text) << c.provider << " " << Code(c.language);
+    unsigned int language = 0;
+    EXPECT_EQ(Found([&](UChar* b, UShort* s) { return d->GetServiceNameByIndex(0, &language, b, s); }), "ABC");
+    EXPECT_EQ(language, kEng);
+    EXPECT_EQ(Found([&](UChar* b, UShort* s) { return d->GetServiceNameByIndex(2, &language, b, s); }), "<none>");
+    UShort size = 0;
+    EXPECT_FALSE(d->GetServiceNameByLanguage(kEng, nullptr, &size));
+
+    ExpectCopies(*d->ServiceNameDesc(0), &CmultiServiceNameDesc::ServiceNameChar,
+                 {{3, true, 3, "ABC##"}, {2, true, 2, "AB##"}, {0, false, 0, "##"}});
+    ExpectCopies(*d->ServiceNameDesc(1), &CmultiServiceNameDesc::ServiceNameChar, {{0, true, 0, "##"}});
+    ExpectCopies(*d->ServiceNameDesc(1), &CmultiServiceNameDesc::ServiceProviderNameChar, {{5, true, 5, "Anbie##"}});
 }
 
-TEST(DescMultilingualBouquetName, ForkKeepsTheClass)
+// Component tag, count, then language:text of each entry.
+TEST(DescMultilingualComponent, TagAndTexts)
 {
-    auto d = Decode(new TCDescMultilingualBouquetName(), Desc(0x5C, {'e', 'n', 'g', 1, 'X'}));
-    std::unique_ptr<TCBaseDesc> clone(d->Fork());
-    auto* copy = dynamic_cast<TCDescMultilingualBouquetName*>(clone.get());
-    ASSERT_NE(copy, nullptr);
-    EXPECT_EQ(copy->Language(), 0x656E67u);
-    EXPECT_EQ(Bouquet(*copy), "X");
-    std::unique_ptr<TCBaseDesc> plain(Decode(new TCDescBouquetName(), Desc(0x47, {'Y'}))->Fork());
-    EXPECT_EQ(svctest::ClassOf(plain.get()), typeid(TCDescBouquetName).name());
+    auto make = [] { return new TCDescMultilingualComponent(); };
+    ExpectBodies(0x5E, make, [](const TCDescMultilingualComponent& d) {
+        std::string s = Join(d.ComponentTag(), d.NumOfComponentText());
+        for (int i = 0; d.ComponentDesc(i); ++i)
+            s += " " + Code(d.ComponentDesc(i)->Language()) + ":" +
+                 TextOf(*d.ComponentDesc(i), &CmultiComponentDesc::TextDescChar);
+        return s;
+    }, {
+        {{0x07, 'e', 'n', 'g', 2, 'H', 'D', 'd', 'e', 'u', 0}, "7 2 eng:HD deu:<none>"},
+        {{0x07, 'e', 'n', 'g', 6, 'H'}, "7 1 eng:H"},
+        {{0x07, 'e', 'n'}, "7 0", "inLen=3, outLen=1"},
+        {{0x07}, "7 0"},
+    });
+    auto d = Decode(make(), Desc(0x5E, {0x07, 'e', 'n', 'g', 2, 'H', 'D'}));
+    ExpectCopies(*d->ComponentDesc(0), &CmultiComponentDesc::TextDescChar, {{1, false, 1, "H##"}});
 }
 
-TEST(DescNetworkName, FactoryRowsThroughLoops)
+TEST(NameDescriptors, FactoryRows)
 {
-    const svctest::Row rows[] = {
+    ExpectRows({
         {"GBR", 0x40, Desc(0x40, {'N'}), 0x40, typeid(TCDescNetworkName)},
+        {"DEU", 0x41, Desc(0x40, {'N'}), 0x40, typeid(TCDescNetworkName)},
         {"GBR", 0x4A, Desc(0x47, {'B'}), 0x47, typeid(TCDescBouquetName)},
         {"GBR", 0x4A, Desc(0x5C, {'e', 'n', 'g', 1, 'B'}), 0x5C, typeid(TCDescMultilingualBouquetName)},
-        {"DEU", 0x41, Desc(0x40, {'N'}), 0x40, typeid(TCDescNetworkName)},
-    };
-    for (const svctest::Row& row : rows) {
-        SCOPED_TRACE(row.expected.name());
-        EXPECT_EQ(svctest::ClassOfRow(row), row.expected.name());
-    }
+        {"GBR", 0x40, Desc(0x5B, {'e', 'n', 'g', 1, 'N'}), 0x5B, typeid(TCDescMultilingualNetworkName)},
+        {"GBR", 0x42, Desc(0x5D, kServiceNames), 0x5D, typeid(TCDescMultilingualServiceName)},
+        {"GBR", 0x4E, Desc(0x5E, {0x07, 'e', 'n', 'g', 0}), 0x5E, typeid(TCDescDefault)}, // no factory makes it
+    });
 }

@@ -1,26 +1,25 @@
+// Service descriptors: service, service list, service move, country availability, CA identifier,
+// private data specifier.
 #include <gtest/gtest.h>
 
-#include <string>
-#include <typeindex>
+#include <list>
 
 #include <zum-platform/Dlog.h>
 #include <zum-platform/PlatformConfig.h>
-#include <zum-platform/UnicodeConverter.h>
 
+#include "dvb/DescCAIdentifier.h"
+#include "dvb/DescCountryAvailability.h"
 #include "dvb/DescLoopProbe.h"
+#include "dvb/DescPrivateDataSpecifier.h"
 #include "dvb/DescService.h"
-#include "support/LogCapture.h"
+#include "dvb/DescServiceMove.h"
+#include "dvb/ServiceKey.h"
 
-using svctest::Bytes;
-using svctest::Copied;
-using svctest::CopyWith;
-using svctest::Decode;
-using zumtest::Concat;
-using zumtest::Desc;
+using namespace svctest;
 
 namespace {
 
-Bytes ServiceBody(unsigned char type, const std::string& provider, const std::string& name)
+Bytes ServiceBody(UChar type, const std::string& provider, const std::string& name)
 {
     zumtest::ByteWriter w;
     w.U8(type).U8(static_cast<unsigned>(provider.size())).Text(provider);
@@ -28,249 +27,200 @@ Bytes ServiceBody(unsigned char type, const std::string& provider, const std::st
     return w.Data();
 }
 
-std::string ProviderName(const TCDescService& d)
+// Type, provider name, service name.
+std::string Service(const TCDescService& d)
 {
-    unsigned char buffer[256];
-    unsigned short size = sizeof buffer;
-    return d.ServiceProviderNameText(buffer, size) ? std::string(buffer, buffer + size) : "<none>";
+    return Join(d.ServiceType(),
+                TextBy<UChar, UShort>([&](UChar* b, UShort* s) { return d.ServiceProviderNameText(b, *s); }),
+                TextBy<UChar, UShort>([&](UChar* b, UShort* s) { return d.ServiceNameText(b, *s); }));
 }
 
-std::string ServiceName(const TCDescService& d)
-{
-    unsigned char buffer[256];
-    unsigned short size = sizeof buffer;
-    return d.ServiceNameText(buffer, size) ? std::string(buffer, buffer + size) : "<none>";
-}
+TCDescService* NewService() { return new TCDescService(); }
+
+constexpr unsigned int kGBR = 0x474252, kFRA = 0x465241;
 
 } // namespace
 
-TEST(DescService, DecodesTypeAndNames)
+// Names stay raw: a character table selector and 8-bit bytes reach the caller as sent. A body that ends early keeps
+// what it got; a name that claims more than is left keeps the bytes that are there.
+TEST(DescService, Bodies)
 {
     zumtest::BinderScope binder;
-    zumtest::LogCapture log;
-    int parsed = 0;
-    auto d = Decode(new TCDescService(), Desc(0x48, ServiceBody(0x19, "BBC", "BBC One HD")), &parsed);
-    EXPECT_EQ(parsed, 2 + 1 + 4 + 11);
-    EXPECT_EQ(d->Tag(), 0x48);
-    EXPECT_EQ(d->ServiceType(), 0x19);
-    EXPECT_EQ(ProviderName(*d), "BBC");
-    EXPECT_EQ(ServiceName(*d), "BBC One HD");
-    EXPECT_FALSE(log.Contains("length mismatch"));
+    ExpectBodies(0x48, NewService, Service, {
+        {ServiceBody(0x19, "BBC", "\x15" "Caf\xC3\xA9"), "25 BBC \x15" "Caf\xC3\xA9"},
+        {{0x02, 0x00, 0x09, 'X', 'Y', 'Z'}, "2 <none> XYZ"},
+        {{0x01, 0x01, 'A'}, "1 A <none>"},
+        {{0x01, 0x05, 'A', 'B'}, "1 AB <none>"},
+        {{0x01, 0x03}, "1 <none> <none>"},
+        {{0x01}, "1 <none> <none>"},
+        {{}, "0 <none> <none>"},
+    });
+    ExpectClone(*Decode(NewService(), Desc(0x48, ServiceBody(0x19, "BBC", "One"))));
+
+    auto ten = Decode(NewService(), Desc(0x48, ServiceBody(0x01, "", "0123456789")));
+    ExpectCopiesBy<UChar, UShort>([&](UChar* b, UShort* s) { return ten->ServiceNameText(b, *s); },
+                                  {{11, true, 10, "0123456789###"}, {10, true, 10, "0123456789##"},
+                                   {9, false, 9, "012345678##"}, {4, false, 4, "0123##"}, {0, false, 0, "##"}});
+    // Nothing to copy, or no buffer: false with size 0.
+    ExpectCopiesBy<UChar, UShort>([&](UChar* b, UShort* s) { return ten->ServiceProviderNameText(b, *s); },
+                                  {{8, false, 0, "##########"}});
+    UShort size = 8;
+    EXPECT_FALSE(ten->ServiceNameText(nullptr, size));
+    EXPECT_EQ(size, 0);
 }
 
-// The receiver's list of service types: an unknown one reads 0xFF, and type
-// 0x90 depends on the Dolby certification mode.
+// The receiver's list of service types: an unknown one reads 0xFF, with its names still stored; 0x90 depends on
+// the Dolby certification mode.
 TEST(DescService, ServiceTypeAsTheReceiverKnowsIt)
 {
-    struct Case {
-        unsigned char type;
-        bool binder;
-        bool dolby;
-        unsigned char expected;
-        const char* log;
-    } cases[] = {
-        {0x00, true, false, 0x00, nullptr},
-        {0x0C, true, false, 0x0C, nullptr},
-        {0x0D, true, false, 0xFF, nullptr},
-        {0x0E, true, false, 0x0E, nullptr},
-        {0x20, true, false, 0x20, nullptr},
-        {0x21, true, false, 0xFF, nullptr},
-        {0x8A, true, false, 0x8A, nullptr},
-        {0x8B, true, false, 0xFF, nullptr},
-        {0x97, true, false, 0xFF, nullptr},
-        {0x9B, true, false, 0x9B, nullptr},
-        {0xA2, true, false, 0xFF, nullptr},
-        {0xA7, true, false, 0xA7, nullptr},
-        {0xD3, true, false, 0xD3, nullptr},
-        {0xF9, true, false, 0xF9, nullptr},
-        {0xFF, true, false, 0xFF, nullptr},
+    const UChar known[] = {0x00, 0x0C, 0x0E, 0x20, 0x80, 0x82, 0x8A, 0x8C, 0x8D, 0x98,
+                           0x9B, 0xA1, 0xA3, 0xA7, 0xC0, 0xD3, 0xF0, 0xF9};
+    const UChar unknown[] = {0x0D, 0x21, 0x7F, 0x83, 0x8B, 0x8E, 0x97, 0x9C, 0xA0, 0xA2, 0xA8, 0xD2, 0xFF};
+    zumtest::BinderScope binder;
+    for (UChar type : known)
+        EXPECT_EQ(Service(*Decode(NewService(), Desc(0x48, ServiceBody(type, "P", "N")))), Join(type, "P N"));
+    for (UChar type : unknown)
+        EXPECT_EQ(Service(*Decode(NewService(), Desc(0x48, ServiceBody(type, "P", "N")))), "255 P N") << int(type);
+    const struct { UChar type; bool binder, dolby; UChar expected; const char* log; } cases[] = {
         {0x90, true, true, 0x90, "t_AllocateServiceType Dolby Cert Mode Enabled"},
         {0x90, true, false, 0xFF, "t_AllocateServiceType Dolby Cert Mode Disabled"},
         {0x90, false, false, 0x00, "ASSERT!, Func:t_AllocateServiceType"},
         {0x19, false, false, 0x19, nullptr},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(testing::Message() << "type 0x" << std::hex << int(c.type) << " binder " << c.binder);
-        zumtest::BinderScope binder;
-        binder->dolbyCertMode = c.dolby;
+    for (const auto& c : cases) {
+        SCOPED_TRACE(testing::Message() << int(c.type) << " binder " << c.binder << " dolby " << c.dolby);
+        zumtest::BinderScope scope;
+        scope->dolbyCertMode = c.dolby;
         if (!c.binder)
             zum_platform::RemoveBinder();
         zumtest::LogCapture log;
-        auto d = Decode(new TCDescService(), Desc(0x48, ServiceBody(c.type, "P", "Name")));
-        EXPECT_EQ(d->ServiceType(), c.expected);
-        // The names stay whatever the type says.
-        EXPECT_EQ(ServiceName(*d), "Name");
-        if (c.log)
-            EXPECT_TRUE(log.Contains(c.log));
-        else
-            EXPECT_TRUE(log.Lines(DLOG_ERROR).empty());
+        EXPECT_EQ(Decode(NewService(), Desc(0x48, ServiceBody(c.type, "P", "N")))->ServiceType(), c.expected);
+        EXPECT_TRUE(c.log ? log.Contains(c.log) : log.Lines(DLOG_ERROR).empty());
     }
 }
 
-// A body that ends early keeps what it got; a name that claims more than is
-// left keeps the bytes that are there.
-TEST(DescService, ShortBodies)
+// Count, then id/type of every entry from index -1 to the count: all bits set outside.
+TEST(DescServiceList, Entries)
 {
-    struct Case {
-        const char* name;
-        Bytes body;
-        unsigned char type;
-        std::string provider;
-        std::string service;
-    } cases[] = {
-        {"type only", {0x01}, 0x01, "<none>", "<none>"},
-        {"provider length only", {0x01, 0x03}, 0x01, "<none>", "<none>"},
-        {"provider cut", {0x01, 0x05, 'A', 'B'}, 0x01, "AB", "<none>"},
-        {"no service length", {0x01, 0x01, 'A'}, 0x01, "A", "<none>"},
-        {"service cut", {0x02, 0x00, 0x09, 'X', 'Y', 'Z'}, 0x02, "<none>", "XYZ"},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        zumtest::BinderScope binder;
-        auto d = Decode(new TCDescService(), Desc(0x48, c.body));
-        EXPECT_EQ(d->ServiceType(), c.type);
-        EXPECT_EQ(ProviderName(*d), c.provider);
-        EXPECT_EQ(ServiceName(*d), c.service);
-    }
+    ExpectBodies(0x41, [] { return new TCDescServiceList(); }, [](const TCDescServiceList& d) {
+        std::string s = Join(d.NumberOfLoop());
+        for (int i = -1; i <= d.NumberOfLoop(); ++i)
+            s += " " + Join(d.ServiceId(i)) + "/" + Join(d.ServiceType(i));
+        return s;
+    }, {
+        {{0x10, 0x01, 0x01, 0x10, 0x02, 0x19}, "2 65535/255 4097/1 4098/25 65535/255"},
+        {{0x10, 0x01, 0x01, 0x10, 0x02, 0x19, 0xAA}, "2 65535/255 4097/1 4098/25 65535/255", "inLen=7, outLen=6"},
+        {{0x10, 0x01}, "0 65535/255 65535/255", "inLen=2, outLen=0"},
+        {{}, "0 65535/255 65535/255"},
+    });
 }
 
-TEST(DescService, LengthZeroRunsNoHook)
+// Original network, transport stream and service ids, by the accessors and through the key.
+TEST(DescServiceMove, NewLocation)
 {
-    zumtest::BinderScope binder;
-    zumtest::LogCapture log;
-    int parsed = 0;
-    auto d = Decode(new TCDescService(), Desc(0x48, {}), &parsed);
-    EXPECT_EQ(parsed, 2);
-    EXPECT_EQ(d->ServiceType(), 0);
-    EXPECT_EQ(ServiceName(*d), "<none>");
-    EXPECT_TRUE(log.Lines().empty());
+    auto make = [] { return new TCDescServiceMove(); };
+    ExpectBodies(0x60, make, [](const TCDescServiceMove& d) {
+        TCServiceKey key(1, 2, 3);
+        d.GetNewServiceLocation(key);
+        return Join(d.NewOriginalNetworkId(), d.NewTransportStreamId(), d.NewServiceId(), key.m_originalNetworkId,
+                    key.m_transportStreamId, key.m_serviceId);
+    }, {
+        {{0x00, 0x02, 0x04, 0x10, 0x12, 0x34}, "2 1040 4660 2 1040 4660"},
+        {{0x00, 0x02, 0x04, 0x10, 0x12}, "2 1040 65535 2 1040 65535", "inLen=5, outLen=4"},
+        {{0x00, 0x02}, "2 65535 65535 2 65535 65535"},
+        {{}, "65535 65535 65535 65535 65535 65535"},
+    });
+    // A second decode of a shorter body does not keep the ids of the first.
+    auto d = Decode(make(), Desc(0x60, {0x00, 0x02, 0x04, 0x10, 0x12, 0x34}));
+    d->Parse(Desc(0x60, {0x00, 0x05}).data());
+    EXPECT_EQ(Join(d->NewTransportStreamId(), d->NewServiceId()), "65535 65535");
 }
 
-// Text copy through a reference: a short buffer gets its capacity and false,
-// nothing to copy reports size 0.
-TEST(DescService, NameCopyAtItsBoundaries)
+// Countries() answer and list (behind the caller's own entry), then IsServiceAvailable for GBR and FRA.
+TEST(DescCountryAvailability, FlagAndList)
 {
-    zumtest::BinderScope binder;
-    auto d = Decode(new TCDescService(), Desc(0x48, ServiceBody(0x01, "", "0123456789")));
-    struct Case {
-        int capacity;
-        bool result;
-        int size;
-        std::string bytes;
-    } cases[] = {
-        {11, true, 10, "0123456789###"},
-        {10, true, 10, "0123456789##"},
-        {9, false, 9, "012345678##"},
-        {4, false, 4, "0123##"},
-        {0, false, 0, "##"},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.capacity);
-        Copied got = CopyWith<unsigned char, unsigned short>(
-            c.capacity, [&](unsigned char* b, unsigned short* s) { return d->ServiceNameText(b, *s); });
-        EXPECT_EQ(got.result, c.result);
-        EXPECT_EQ(got.size, c.size);
-        EXPECT_EQ(got.bytes, c.bytes);
-    }
-    // An empty provider name copies nothing and reports size 0.
-    Copied empty = CopyWith<unsigned char, unsigned short>(
-        8, [&](unsigned char* b, unsigned short* s) { return d->ServiceProviderNameText(b, *s); });
-    EXPECT_FALSE(empty.result);
-    EXPECT_EQ(empty.size, 0);
-    unsigned short size = 8;
-    EXPECT_FALSE(d->ServiceNameText(nullptr, size));
-    EXPECT_EQ(size, 0);
+    auto make = [] { return new TCDescCountryAvailability(); };
+    ExpectBodies(0x49, make, [](const TCDescCountryAvailability& d) {
+        std::list<ECountryCode> got{ZumPackCode("XXX")};
+        std::string s = Join(d.Countries(got));
+        for (ECountryCode code : got)
+            s += " " + Code(code);
+        return s + " " + Join(d.IsServiceAvailable(kGBR), d.IsServiceAvailable(kFRA));
+    }, {
+        {{0x80, 'G', 'B', 'R', 'I', 'R', 'L'}, "1 XXX GBR IRL 1 0"},
+        {{0x7F, 'G', 'B', 'R'}, "1 XXX GBR 0 1"},
+        {{0x80}, "0 XXX 0 0"},
+        {{0x00}, "0 XXX 1 1"},
+        {{0x80, 'G', 'B', 'R', 'I', 'R'}, "1 XXX GBR 1 0", "inLen=6, outLen=4"},
+        {{}, "0 XXX 1 1"},
+    });
+    // The enumerations come through the platform's tables; a country outside them is "others" (78).
+    auto d = Decode(make(), Desc(0x49, {0x80, 'G', 'B', 'R', 'B', 'R', 'A', 'Z', 'M', 'B'}));
+    std::list<int> values;
+    std::list<ECountry> countries;
+    EXPECT_TRUE(d->Countries(values));
+    EXPECT_TRUE(d->Countries(countries));
+    EXPECT_EQ(values, (std::list<int>{7, 78, 97}));
+    EXPECT_EQ(countries, (std::list<ECountry>{ECountry(7), ECountry(78), ECountry(97)}));
+    auto none = Decode(make(), Desc(0x49, {0x80}));
+    EXPECT_FALSE(none->Countries(values));
+    EXPECT_FALSE(none->Countries(countries));
+    EXPECT_EQ(values.size(), 3u);
+
+    // A second decode replaces the list rather than adding to it.
+    d->Parse(Desc(0x49, {0x80, 'I', 'R', 'L'}).data());
+    std::list<ECountryCode> codes;
+    d->Countries(codes);
+    EXPECT_EQ(codes, (std::list<ECountryCode>{0x49524C}));
 }
 
-// Names stay raw: the character table selector reaches the caller, whose
-// converter then reads the right table.
-TEST(DescService, NamesReachTheConverterRaw)
+TEST(DescCAIdentifier, SystemIds)
 {
-    zumtest::BinderScope binder;
-    struct Case {
-        const char* name;
-        std::string raw;
-        std::basic_string<unsigned short> text;
-    } cases[] = {
-        {"ISO 8859-9", std::string("\x05" "D\xF0" "a", 4), {'D', 0x11F, 'a'}},
-        {"UTF-8", std::string("\x15" "Caf\xC3\xA9", 6), {'C', 'a', 'f', 0xE9}},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        auto d = Decode(new TCDescService(), Desc(0x48, ServiceBody(0x01, "", c.raw)));
-        unsigned char buffer[256];
-        unsigned short size = sizeof buffer;
-        ASSERT_TRUE(d->ServiceNameText(buffer, size));
-        EXPECT_EQ(std::string(buffer, buffer + size), c.raw);
-        TCUnicodeConverter converter(kZUMDefaultHandle);
-        std::basic_string<unsigned short> text;
-        ASSERT_TRUE(converter.ConvertToUnicode(buffer, size, text, false, ZumPackCode("tur"), true));
-        EXPECT_EQ(text, c.text);
-    }
+    ExpectBodies(0x53, [] { return new TCDescCAIdentifier(); }, [](const TCDescCAIdentifier& d) {
+        std::string s;
+        for (unsigned short id : d.CASystemIds())
+            s += Join(id) + " ";
+        return s;
+    }, {
+        {{0x09, 0x63, 0x18, 0x02}, "2403 6146 "},
+        {{0x09, 0x63, 0x18}, "2403 6144 "}, // the lone last byte is the high byte of an id whose low byte is missing
+        {{0x05}, "1280 "},
+        {{}, ""},
+    });
 }
 
-TEST(DescServiceList, DecodesEntriesAndAnswersAllBitsOutside)
+TEST(DescPrivateDataSpecifier, FourBytesBigEndian)
 {
-    struct Case {
-        const char* name;
-        Bytes body;
-        int count;
-        const char* warning;
-    } cases[] = {
-        {"two entries", {0x10, 0x01, 0x01, 0x10, 0x02, 0x19}, 2, nullptr},
-        {"trailing byte", {0x10, 0x01, 0x01, 0x10, 0x02, 0x19, 0xAA}, 2, "inLen=7, outLen=6"},
-        {"below one entry", {0x10, 0x01}, 0, "inLen=2, outLen=0"},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        zumtest::LogCapture log;
-        auto d = Decode(new TCDescServiceList(), Desc(0x41, c.body));
-        if (c.warning)
-            EXPECT_TRUE(log.Contains(c.warning));
-        else
-            EXPECT_FALSE(log.Contains("length mismatch"));
-        EXPECT_EQ(d->NumberOfLoop(), c.count);
-        if (c.count == 2) {
-            EXPECT_EQ(d->ServiceId(0), 0x1001);
-            EXPECT_EQ(d->ServiceType(0), 0x01);
-            EXPECT_EQ(d->ServiceId(1), 0x1002);
-            EXPECT_EQ(d->ServiceType(1), 0x19);
-        }
-        for (int index : {-1, c.count, 100}) {
-            EXPECT_EQ(d->ServiceId(index), 0xFFFF);
-            EXPECT_EQ(d->ServiceType(index), 0xFF);
-        }
-    }
-    auto empty = Decode(new TCDescServiceList(), Desc(0x41, {}));
-    EXPECT_EQ(empty->NumberOfLoop(), 0);
-    EXPECT_EQ(empty->ServiceId(0), 0xFFFF);
+    ExpectBodies(0x5F, [] { return new TCDescPrivateDataSpecifier(); },
+                 [](const TCDescPrivateDataSpecifier& d) { return Join(d.PrivateDataSpecifier()); }, {
+        {{0xEC, 0xCA, 0x00, 0x01}, "3972661249"},
+        {{0x00, 0x00, 0x00, 0x28, 0xFF}, "40", "inLen=5, outLen=4"},
+        {{0x00, 0x00, 0x22}, "0", "inLen=3, outLen=0"},
+        {{}, "0"},
+    });
 }
 
-// A clone decodes its raw copy anew and equals the original.
-TEST(DescService, ForkDecodesAgain)
+TEST(ServiceDescriptors, FactoryRows)
 {
-    zumtest::BinderScope binder;
-    auto d = Decode(new TCDescService(), Desc(0x48, ServiceBody(0x16, "Sky", "Sky News")));
-    std::unique_ptr<TCBaseDesc> clone(d->Fork());
-    auto* service = dynamic_cast<TCDescService*>(clone.get());
-    ASSERT_NE(service, nullptr);
-    EXPECT_EQ(service->ServiceType(), 0x16);
-    EXPECT_EQ(ServiceName(*service), "Sky News");
-    EXPECT_TRUE(service->FlagEqual(d.get()));
-}
-
-// The SI factory rows of the service and network names, through a loop.
-TEST(DescService, FactoryRowsThroughLoops)
-{
-    const svctest::Row rows[] = {
-        {"GBR", 0x42, Desc(0x48, ServiceBody(1, "", "A")), 0x48, typeid(TCDescService)},
+    const Bytes service = Desc(0x48, ServiceBody(1, "", "A")), move = Desc(0x60, {0, 2, 4, 0x10, 0x12, 0x34});
+    ExpectRows({
+        {"GBR BRA", 0x42, service, 0x48, typeid(TCDescService)},
         {"GBR", 0x40, Desc(0x41, {0, 1, 1}), 0x41, typeid(TCDescServiceList)},
-        {"BRA", 0x42, Desc(0x48, ServiceBody(1, "", "A")), 0x48, typeid(TCDescService)},
-        // Program tables know no service descriptor.
-        {"GBR", 0x02, Desc(0x48, ServiceBody(1, "", "A")), 0x48, typeid(TCDescDefault)},
+        {"GBR BRA", 0x02, move, 0x60, typeid(TCDescServiceMove)},
+        {"GBR", 0x42, move, 0x60, typeid(TCDescDefault)},
+        {"GBR BRA", 0x42, Desc(0x49, {0x80, 'G', 'B', 'R'}), 0x49, typeid(TCDescCountryAvailability)},
+        {"GBR", 0x42, Desc(0x53, {0x09, 0x63}), 0x53, typeid(TCDescDefault)}, // no SI factory makes it
+    });
+    // Only the EACEM specifier stays as a descriptor in SI loops; a PMT filters the same way, but not in ISDB.
+    const struct { const char* country; UChar tableId, low, high; bool kept; } specifiers[] = {
+        {"GBR", 0x40, 0x22, 0xC6, 1}, {"GBR", 0x40, 0x00, 0x28, 0}, {"GBR", 0x02, 0x22, 0xC6, 1},
+        {"GBR", 0x02, 0x23, 0x3A, 0}, {"BRA", 0x02, 0x23, 0x3A, 1},
     };
-    for (const svctest::Row& row : rows) {
-        SCOPED_TRACE(row.expected.name());
-        EXPECT_EQ(svctest::ClassOfRow(row), row.expected.name());
+    for (const auto& c : specifiers) {
+        SCOPED_TRACE(testing::Message() << c.country << " table " << int(c.tableId) << " " << int(c.high));
+        TCDescriptorHash hash;
+        Walk(c.country, c.tableId, Desc(0x5F, {0, 0, c.low, c.high}), hash);
+        auto* d = dynamic_cast<TCDescPrivateDataSpecifier*>(hash.Descriptor(0x5F, 0));
+        EXPECT_EQ(d ? Join(d->PrivateDataSpecifier()) : "none", c.kept ? Join(c.low << 8 | c.high) : "none");
     }
 }
