@@ -1,0 +1,484 @@
+#include "inspect/Describers.h"
+
+#include <cxxabi.h>
+
+#include <cstdlib>
+#include <functional>
+#include <list>
+#include <map>
+#include <memory>
+#include <typeindex>
+#include <typeinfo>
+#include <unordered_map>
+#include <vector>
+
+#include "core/BaseDesc.h"
+#include "core/DescriptorContainer.h"
+#include "dvb/DescCAIdentifier.h"
+#include "dvb/DescComponent.h"
+#include "dvb/DescContent.h"
+#include "dvb/DescCountryAvailability.h"
+#include "dvb/DescLanguage.h"
+#include "dvb/DescLocalTimeOffset.h"
+#include "dvb/DescMultilingualNetworkName.h"
+#include "dvb/DescNetworkName.h"
+#include "dvb/DescPrivateDataSpecifier.h"
+#include "dvb/DescSatelliteDeliverySystem.h"
+#include "dvb/DescService.h"
+#include "dvb/DescServiceMove.h"
+#include "dvb/DescShortEvent.h"
+#include "dvb/DescT2SystemDelivery.h"
+#include "operators/DescLogicalChannel.h"
+#include "operators/DescLogicalChannelV2.h"
+
+namespace zuminspect {
+
+namespace {
+
+// Runs a copy accessor of the library into a buffer of the announced length
+// and decodes what it wrote. `copy(buffer, &size)` follows the library's
+// contract: capacity in, bytes written out.
+template <class Char, class Size, class Copy>
+std::string CopiedText(const TextDecoder& text, long length, Copy copy)
+{
+    if (length <= 0)
+        return std::string();
+    std::vector<Char> buffer(static_cast<size_t>(length));
+    Size size = static_cast<Size>(length);
+    if (!copy(buffer.data(), &size) || size <= 0)
+        return std::string();
+    const size_t written = std::min(static_cast<size_t>(size), buffer.size());
+    return text.Decode(reinterpret_cast<const unsigned char*>(buffer.data()), written);
+}
+
+// ---- names and services ----------------------------------------------------
+
+Json NetworkName(const TCDescNetworkName& d, const TextDecoder& text)
+{
+    return {{"name", CopiedText<unsigned char, unsigned short>(text, d.NetworkNameLength(), [&](auto* b, auto* s) {
+                 return d.NetworkNameText(b, s);
+             })}};
+}
+
+std::string BouquetNameOf(const TCDescBouquetName& d, const TextDecoder& text)
+{
+    return CopiedText<unsigned char, unsigned short>(text, d.BouquetNameLength(),
+                                                     [&](auto* b, auto* s) { return d.BouquetNameText(b, s); });
+}
+
+Json BouquetName(const TCDescBouquetName& d, const TextDecoder& text)
+{
+    return {{"name", BouquetNameOf(d, text)}};
+}
+
+Json MultilingualBouquetName(const TCDescMultilingualBouquetName& d, const TextDecoder& text)
+{
+    return {{"language", CodeText(d.Language())}, {"name", BouquetNameOf(d, text)}};
+}
+
+Json Service(const TCDescService& d, const TextDecoder& text)
+{
+    return {{"serviceType", d.ServiceType()},
+            {"provider", CopiedText<unsigned char, unsigned short>(text, d.ServiceProviderNameLength(),
+                                                                   [&](auto* b, auto* s) {
+                                                                       return d.ServiceProviderNameText(b, *s);
+                                                                   })},
+            {"name", CopiedText<unsigned char, unsigned short>(text, d.ServiceNameLength(), [&](auto* b, auto* s) {
+                 return d.ServiceNameText(b, *s);
+             })}};
+}
+
+Json ServiceList(const TCDescServiceList& d, const TextDecoder&)
+{
+    Json services = Json::array();
+    for (int i = 0; i < d.NumberOfLoop(); ++i)
+        services.push_back({{"serviceId", d.ServiceId(i)}, {"serviceType", d.ServiceType(i)}});
+    return {{"services", services}};
+}
+
+Json ServiceMove(const TCDescServiceMove& d, const TextDecoder&)
+{
+    return {{"newOriginalNetworkId", d.NewOriginalNetworkId()},
+            {"newTransportStreamId", d.NewTransportStreamId()},
+            {"newServiceId", d.NewServiceId()}};
+}
+
+Json MultilingualNetworkName(const TCDescMultilingualNetworkName& d, const TextDecoder& text)
+{
+    Json names = Json::array();
+    for (int i = 0; i < d.NumOfNetworkName(); ++i) {
+        const CmultiNetworkNameDesc* n = d.NetworkNameDesc(i);
+        names.push_back({{"language", CodeText(n->Language())},
+                         {"name", CopiedText<unsigned char, unsigned short>(
+                                      text, n->NetworkNameLength(),
+                                      [&](auto* b, auto* s) { return n->NetworkNameChar(b, s); })}});
+    }
+    return {{"names", names}};
+}
+
+Json MultilingualServiceName(const TCDescMultilingualServiceName& d, const TextDecoder& text)
+{
+    Json names = Json::array();
+    for (int i = 0; i < d.NumOfServiceName(); ++i) {
+        const CmultiServiceNameDesc* n = d.ServiceNameDesc(i);
+        names.push_back({{"language", CodeText(n->Language())},
+                         {"provider", CopiedText<unsigned char, unsigned short>(
+                                          text, n->ServiceProviderNameLength(),
+                                          [&](auto* b, auto* s) { return n->ServiceProviderNameChar(b, s); })},
+                         {"name", CopiedText<unsigned char, unsigned short>(
+                                      text, n->ServiceNameLength(),
+                                      [&](auto* b, auto* s) { return n->ServiceNameChar(b, s); })}});
+    }
+    return {{"names", names}};
+}
+
+// ---- delivery systems ------------------------------------------------------
+
+Json SatelliteDelivery(const TCDescSatelliteDeliverySystem& d, const TextDecoder&)
+{
+    return {{"frequencyKHz", d.Frequency()},          {"symbolRateKsps", d.SymbolRate()},
+            {"orbitalPosition", d.OrbitalPosition()}, {"east", d.WestEastFlag() != 0},
+            {"polarization", d.Polarization()},       {"modulation", d.Modulation()},
+            {"fecInner", d.FecInner()}};
+}
+
+Json CableDelivery(const TCDescCableDeliverySystem& d, const TextDecoder&)
+{
+    return {{"frequencyKHz", d.Frequency()}, {"modulation", d.ModulationCode()}, {"symbolRateKsps", d.SymbolRate()},
+            {"fecOuter", d.FecOuter()},      {"fecInner", d.FecInner()}};
+}
+
+Json TerrestrialDelivery(const TCDescTerrestrialDeliverySystem& d, const TextDecoder&)
+{
+    return {{"centreFrequencyHz", 10ULL * d.CentreFrequency()},
+            {"bandwidth", d.Bandwidth()},
+            {"constellation", d.Constellation()},
+            {"hierarchy", d.Hierarchy()},
+            {"codeRateHP", d.CodeRateHP()},
+            {"codeRateLP", d.CodeRateLP()},
+            {"guardInterval", d.GuardInterval()},
+            {"transmissionMode", d.TransmissionMode()},
+            {"otherFrequency", d.OtherFrequencyFlag() != 0}};
+}
+
+Json T2Delivery(const TCDescT2SystemDelivery& d, const TextDecoder&)
+{
+    std::map<unsigned short, std::vector<unsigned int>> cells;
+    d.GetCellIdMap(cells);
+    Json cellList = Json::array();
+    for (const auto& cell : cells)
+        cellList.push_back({{"cellId", cell.first}, {"centreFrequencies", cell.second}});
+    return {{"plpId", d.PlpId()},
+            {"t2SystemId", d.T2SystemId()},
+            {"sisoMiso", d.SisoMiso()},
+            {"bandwidth", d.Bandwidth()},
+            {"guardInterval", d.GuardInterval()},
+            {"transmissionMode", d.TransmissionMode()},
+            {"otherFrequency", d.OtherFrequencyFlag() != 0},
+            {"tfs", d.TfsFlag() != 0},
+            {"cells", cellList}};
+}
+
+Json FrequencyList(const TCDescFrequencyList& d, const TextDecoder&)
+{
+    Json frequencies = Json::array();
+    for (int i = 0; i < d.NumOfEntries(); ++i)
+        frequencies.push_back(d.CentreFrequency(i));
+    return {{"codingType", d.CodingType()}, {"frequenciesMHz", frequencies}};
+}
+
+// ---- events and components -------------------------------------------------
+
+Json ShortEvent(const TCDescShortEvent& d, const TextDecoder& text)
+{
+    return {{"language", CodeText(d.Language())},
+            {"name", CopiedText<unsigned char, unsigned short>(
+                         text, d.EventNameLength(), [&](auto* b, auto* s) { return d.EventNameChar(b, s); })},
+            {"text", CopiedText<unsigned char, unsigned short>(text, d.TextLength(),
+                                                               [&](auto* b, auto* s) { return d.TextChar(b, s); })}};
+}
+
+Json ExtendedEvent(const TCDescExtendedEvent& d, const TextDecoder& text)
+{
+    Json items = Json::array();
+    for (unsigned int i = 0; i < d.SizeOfItem(); ++i) {
+        const CitemDesc* item = d.Item(i);
+        items.push_back({{"description", CopiedText<char, int>(text, item->ItemDescriptionLength(),
+                                                               [&](auto* b, auto* s) {
+                                                                   return item->ItemDescriptionChar(b, s);
+                                                               })},
+                         {"item", CopiedText<char, int>(text, item->ItemLength(),
+                                                        [&](auto* b, auto* s) { return item->ItemChar(b, s); })}});
+    }
+    return {{"number", d.DescriptorNumber()},
+            {"lastNumber", d.LastDescriptorNumber()},
+            {"language", CodeText(d.Language())},
+            {"items", items},
+            {"text", CopiedText<unsigned char, unsigned short>(text, d.TextLength(),
+                                                               [&](auto* b, auto* s) { return d.TextChar(b, s); })}};
+}
+
+Json Component(const TCDescComponent& d, const TextDecoder& text)
+{
+    return {{"streamContent", d.StreamContent()},
+            {"streamContentExt", d.StreamContentExt()},
+            {"componentType", d.ComponentType()},
+            {"componentTag", d.ComponentTag()},
+            {"language", CodeText(d.Language())},
+            {"text", CopiedText<char, int>(text, d.TextLength(), [&](auto* b, auto* s) { return d.TextChar(b, s); })}};
+}
+
+Json MultilingualComponent(const TCDescMultilingualComponent& d, const TextDecoder& text)
+{
+    Json texts = Json::array();
+    for (int i = 0; i < d.NumOfComponentText(); ++i) {
+        const CmultiComponentDesc* c = d.ComponentDesc(i);
+        texts.push_back({{"language", CodeText(c->Language())},
+                         {"text", CopiedText<char, int>(text, c->TextLength(),
+                                                        [&](auto* b, auto* s) { return c->TextDescChar(b, s); })}});
+    }
+    return {{"componentTag", d.ComponentTag()}, {"texts", texts}};
+}
+
+Json StreamIdentifier(const TCDescStreamIdentifier& d, const TextDecoder&)
+{
+    return {{"componentTag", d.ComponentTag()}};
+}
+
+Json Content(const TCDescContent& d, const TextDecoder&)
+{
+    Json entries = Json::array();
+    for (int i = 0; i < d.Count(); ++i)
+        entries.push_back({{"level1", d.ContentNibbleLevel1(i)},
+                           {"level2", d.ContentNibbleLevel2(i)},
+                           {"user1", d.UserNibble1(i)},
+                           {"user2", d.UserNibble2(i)}});
+    return {{"entries", entries}};
+}
+
+Json ParentalRating(const TCDescParentalRating& d, const TextDecoder&)
+{
+    Json ratings = Json::array();
+    for (int i = 0; i < d.Count(); ++i)
+        ratings.push_back({{"country", CodeText(d.CountryCode(i))}, {"rating", d.Rating(i)}});
+    return {{"ratings", ratings}};
+}
+
+// ---- languages, subtitles, teletext ----------------------------------------
+
+Json Language(const TCDescLanguage& d, const TextDecoder&)
+{
+    Json languages = Json::array();
+    for (int i = 0; i < d.Count(); ++i) {
+        ELanguageCode language = 0;
+        EAudioType audioType = AUDIO_TYPE_UNDEFINED;
+        if (d.Language(i, &language, &audioType))
+            languages.push_back({{"language", CodeText(language)}, {"audioType", static_cast<int>(audioType)}});
+    }
+    return {{"languages", languages}};
+}
+
+Json Teletext(const TCDescTeletext& d, const TextDecoder&)
+{
+    Json pages = Json::array();
+    for (int i = 0; i < d.Count(); ++i)
+        pages.push_back({{"language", CodeText(d.Iso639LangCode(i))},
+                         {"type", d.TeletextType(i)},
+                         {"magazine", d.TeletextMagzineNumber(i)},
+                         {"page", d.TeletextPageNumber(i)}});
+    return {{"pages", pages}};
+}
+
+Json Subtitling(const TCDescSubtitling& d, const TextDecoder&)
+{
+    Json subtitles = Json::array();
+    for (int i = 0; i < d.Count(); ++i)
+        subtitles.push_back({{"language", CodeText(d.Iso639LangCode(i))},
+                             {"type", d.SubtitlingType(i)},
+                             {"compositionPageId", d.CompositionPageId(i)},
+                             {"ancillaryPageId", d.AncillaryPageId(i)}});
+    return {{"subtitles", subtitles}};
+}
+
+// ---- time, countries, access -----------------------------------------------
+
+Json LocalTimeOffset(const TCDescLocalTimeOffset& d, const TextDecoder&)
+{
+    Json offsets = Json::array();
+    for (int i = 0; i < d.NumOfEntries(); ++i)
+        offsets.push_back({{"country", CodeText(d.CountryCode(i))},
+                           {"region", d.CountryRegionId(i)},
+                           {"negative", d.LocalTimeOffsetPolarity(i) != 0},
+                           {"offsetMinutes", d.LocalTimeOffset(i)},
+                           {"timeOfChange", IsoTimeSince1980(d.TimeOfChange(i))},
+                           {"nextOffsetMinutes", d.NextTimeOffset(i)}});
+    return {{"offsets", offsets}};
+}
+
+Json CountryAvailability(const TCDescCountryAvailability& d, const TextDecoder&)
+{
+    std::list<ECountryCode> codes;
+    d.Countries(codes);
+    Json countries = Json::array();
+    for (ECountryCode code : codes)
+        countries.push_back(CodeText(code));
+    return {{"available", d.Availability()}, {"countries", countries}};
+}
+
+Json PrivateDataSpecifier(const TCDescPrivateDataSpecifier& d, const TextDecoder&)
+{
+    return {{"privateDataSpecifier", Hex(d.PrivateDataSpecifier(), 8)}};
+}
+
+Json CAIdentifier(const TCDescCAIdentifier& d, const TextDecoder&)
+{
+    Json ids = Json::array();
+    for (unsigned short id : d.CASystemIds())
+        ids.push_back(Hex(id, 4));
+    return {{"caSystemIds", ids}};
+}
+
+// ---- logical channels ------------------------------------------------------
+
+Json LcnEntry(const _TTDescLCN& e)
+{
+    return {{"serviceId", e.serviceId}, {"channelNumber", e.channelNumber}, {"visible", e.visibleFlag != 0}};
+}
+
+Json LogicalChannel(const TCDescLogicalChannel& d, const TextDecoder&)
+{
+    // The walk moves a read position: it runs on a clone of its own.
+    const std::unique_ptr<TCBaseDesc> fork(d.Fork());
+    auto* walker = dynamic_cast<TCDescLogicalChannel*>(fork.get());
+    Json entries = Json::array();
+    for (const _TTDescLCN* e = walker ? walker->First(0) : nullptr; e != nullptr; e = walker->Next(0))
+        entries.push_back(LcnEntry(*e));
+    return {{"privateDataSpecifier", Hex(d.PrivateDataSpecifier(), 8)}, {"entries", entries}};
+}
+
+Json LogicalChannelV2(const TCDescLogicalChannelV2& d, const TextDecoder& text)
+{
+    std::map<unsigned int, std::string> names;
+    d.GetChannelLists(names);
+    Json lists = Json::array();
+    for (const auto& list : names) {
+        TCDescLogicalChannelV2::EntryMap map;
+        d.GetLogicalChannelMapForChList(list.first, map);
+        Json entries = Json::array();
+        for (const auto& entry : map)
+            entries.push_back(LcnEntry(entry.second));
+        lists.push_back({{"id", list.first},
+                         {"name", text.Decode(reinterpret_cast<const unsigned char*>(list.second.data()),
+                                              list.second.size())},
+                         {"entries", entries}});
+    }
+    ECountryCode country = 0;
+    int selected = -1;
+    Json result;
+    if (d.GetChannelListCountryId(country, selected))
+        result = {{"selectedList", selected}, {"selectedCountry", CodeText(country)}};
+    else
+        result = {{"selectedList", nullptr}, {"selectedCountry", nullptr}};
+    result["lists"] = lists;
+    return result;
+}
+
+// ---- the table -------------------------------------------------------------
+
+using Describer = std::function<Json(const TCBaseDesc&, const TextDecoder&)>;
+using DescriberTable = std::unordered_map<std::type_index, Describer>;
+
+// Keyed by the exact class: a subclass without an entry of its own shows raw.
+template <class T, class Fn>
+void Register(DescriberTable& table, Fn fn)
+{
+    table[std::type_index(typeid(T))] = [fn](const TCBaseDesc& d, const TextDecoder& text) {
+        return fn(static_cast<const T&>(d), text);
+    };
+}
+
+DescriberTable MakeTable()
+{
+    DescriberTable t;
+    Register<TCDescNetworkName>(t, NetworkName);
+    Register<TCDescBouquetName>(t, BouquetName);
+    Register<TCDescMultilingualBouquetName>(t, MultilingualBouquetName);
+    Register<TCDescService>(t, Service);
+    Register<TCDescServiceList>(t, ServiceList);
+    Register<TCDescServiceMove>(t, ServiceMove);
+    Register<TCDescMultilingualNetworkName>(t, MultilingualNetworkName);
+    Register<TCDescMultilingualServiceName>(t, MultilingualServiceName);
+    Register<TCDescSatelliteDeliverySystem>(t, SatelliteDelivery);
+    Register<TCDescCableDeliverySystem>(t, CableDelivery);
+    Register<TCDescTerrestrialDeliverySystem>(t, TerrestrialDelivery);
+    Register<TCDescT2SystemDelivery>(t, T2Delivery);
+    Register<TCDescFrequencyList>(t, FrequencyList);
+    Register<TCDescShortEvent>(t, ShortEvent);
+    Register<TCDescShortEventISDB>(t, ShortEvent);
+    Register<TCDescExtendedEvent>(t, ExtendedEvent);
+    Register<TCDescComponent>(t, Component);
+    Register<TCDescMultilingualComponent>(t, MultilingualComponent);
+    Register<TCDescStreamIdentifier>(t, StreamIdentifier);
+    Register<TCDescContent>(t, Content);
+    Register<TCDescParentalRating>(t, ParentalRating);
+    Register<TCDescLanguage>(t, Language);
+    Register<TCDescTeletext>(t, Teletext);
+    Register<TCDescSubtitling>(t, Subtitling);
+    Register<TCDescLocalTimeOffset>(t, LocalTimeOffset);
+    Register<TCDescCountryAvailability>(t, CountryAvailability);
+    Register<TCDescPrivateDataSpecifier>(t, PrivateDataSpecifier);
+    Register<TCDescCAIdentifier>(t, CAIdentifier);
+    Register<TCDescLogicalChannel>(t, LogicalChannel);
+    Register<TCDescLogicalChannelV2>(t, LogicalChannelV2);
+    return t;
+}
+
+const DescriberTable& Describers()
+{
+    static const DescriberTable table = MakeTable();
+    return table;
+}
+
+std::string RawHex(const TCBaseDesc& desc)
+{
+    std::vector<unsigned char> raw(static_cast<size_t>(desc.Length()));
+    int size = static_cast<int>(raw.size());
+    if (raw.empty() || !desc.GetDescriptor(raw.data(), &size) || size <= 0)
+        return std::string();
+    return HexBytes(raw.data(), std::min(raw.size(), static_cast<size_t>(size)));
+}
+
+} // namespace
+
+std::string ClassName(const TCBaseDesc& desc)
+{
+    const char* mangled = typeid(desc).name();
+    int status = 0;
+    std::unique_ptr<char, void (*)(void*)> demangled(abi::__cxa_demangle(mangled, nullptr, nullptr, &status),
+                                                     std::free);
+    return status == 0 && demangled ? std::string(demangled.get()) : std::string(mangled);
+}
+
+Json DescribeDescriptor(const TCBaseDesc& desc, const TextDecoder& text)
+{
+    // An extension object without its extension byte answers -1: show the tag it came with.
+    const int tag = desc.Tag() >= 0 ? desc.Tag() : 0x7F;
+    Json out = {{"tag", Hex(static_cast<unsigned>(tag), tag > 0xFF ? 4 : 2)}, {"class", ClassName(desc)}};
+    const auto describer = Describers().find(std::type_index(typeid(desc)));
+    if (describer != Describers().end())
+        out["fields"] = describer->second(desc, text);
+    else
+        out["raw"] = RawHex(desc);
+    return out;
+}
+
+Json DescribeLoop(const IDescriptorContainer& loop, const TextDecoder& text)
+{
+    Json out = Json::array();
+    for (int i = 0; i < loop.NumOfDescriptors(); ++i)
+        if (const TCBaseDesc* desc = loop.DescriptorByIndex(static_cast<unsigned int>(i)))
+            out.push_back(DescribeDescriptor(*desc, text));
+    return out;
+}
+
+} // namespace zuminspect

@@ -1,0 +1,352 @@
+#include "inspect/ModelBuilder.h"
+
+#include <list>
+#include <set>
+
+#include "core/Descriptor.h"
+#include "dvb/DVBLCNParser.h"
+#include "dvb/DVBNITParser.h"
+#include "dvb/DVBSDTParser.h"
+#include "dvb/DVBTDTParser.h"
+#include "dvb/DVBTOTParser.h"
+#include "dvb/DescService.h"
+#include "inspect/Describers.h"
+#include "inspect/Router.h"
+#include "inspect/TsDemux.h"
+#include "operators/DescLogicalChannel.h"
+#include "psi/PATParser.h"
+#include "psi/PMTParser.h"
+
+namespace zuminspect {
+
+namespace {
+
+constexpr int kTagServiceList = 0x41;
+constexpr int kTagService = 0x48;
+constexpr uint32_t kUndefinedTime = 0xFFFFFFFF;
+constexpr uint32_t kUndefinedDuration = 0xFFFFFF;
+constexpr unsigned int kNoChannelNumber = 0xFFFFFFFF;
+
+struct Builder {
+    const Router& router;
+    const DemuxStats& stats;
+    const ModelContext& context;
+    TextDecoder text;
+
+    Json Pat() const;
+    Json Pmts() const;
+    Json Nits() const;
+    Json TransportStream(const TCDVBItemMux& mux) const;
+    Json Sdts() const;
+    Json SdtService(const TCDVBSDTItemService& service) const;
+    Json Events() const;
+    Json Event(const EitCollector::Event& event) const;
+    Json Tdt() const;
+    Json Tot() const;
+    Json Lcn() const;
+    Json Summary() const;
+};
+
+Json PidValue(uint16_t pid)
+{
+    return pid == kNoPid ? Json(nullptr) : Json(pid);
+}
+
+Json HexId(int tableId)
+{
+    return Hex(static_cast<unsigned>(tableId), 2);
+}
+
+std::string TableName(uint16_t pid, uint8_t tableId)
+{
+    if (tableId == 0x85 && pid != kPidEit)
+        return "LCN";
+    if (tableId >= 0x50 && tableId <= 0x5F)
+        return "EIT schedule actual";
+    if (tableId >= 0x60 && tableId <= 0x6F)
+        return "EIT schedule other";
+    if (tableId >= 0x80 && tableId <= 0x9F)
+        return "EIT compressed";
+    switch (tableId) {
+    case 0x00: return "PAT";
+    case 0x01: return "CAT";
+    case 0x02: return "PMT";
+    case 0x40: return "NIT actual";
+    case 0x41: return "NIT other";
+    case 0x42: return "SDT actual";
+    case 0x46: return "SDT other";
+    case 0x4A: return "BAT";
+    case 0x4E: return "EIT p/f actual";
+    case 0x4F: return "EIT p/f other";
+    case 0x70: return "TDT";
+    case 0x73: return "TOT";
+    case 0x74: return "AIT";
+    default: return "";
+    }
+}
+
+Json Builder::Pat() const
+{
+    const TCPATParser* pat = router.Pat();
+    if (pat == nullptr)
+        return nullptr;
+    Json programs = Json::array();
+    for (int i = 0; i < pat->NumOfProgramList(); ++i) {
+        const int number = pat->ProgramNumber(static_cast<unsigned>(i));
+        const int pmtPid = pat->ProgramPID(static_cast<unsigned short>(number));
+        programs.push_back({{"programNumber", number}, {"pmtPid", pmtPid}});
+    }
+    return {{"transportStreamId", pat->TransportStreamId()},
+            {"networkPid", pat->ZeroProgramPid() >= 0 ? Json(pat->ZeroProgramPid()) : Json(nullptr)},
+            {"programs", programs}};
+}
+
+Json Builder::Pmts() const
+{
+    Json pmts = Json::array();
+    const TCPMTParser* pmt = router.Pmt();
+    for (int i = 0; pmt != nullptr && i < pmt->NumOfPMTInstance(); ++i) {
+        const TCPMTInstance* program = pmt->PMTInstanceOfIndex(static_cast<unsigned>(i));
+        Json streams = Json::array();
+        for (int k = 0; k < program->NumOfElementary(); ++k) {
+            const TCPMTElementary* stream = program->PMTElementary(static_cast<unsigned>(k));
+            streams.push_back({{"streamType", stream->StreamType()},
+                               {"pid", stream->ElementaryPID()},
+                               {"descriptors", DescribeLoop(*stream, text)}});
+        }
+        pmts.push_back({{"programNumber", program->ProgramNumber()},
+                        {"pid", PidValue(static_cast<uint16_t>(program->Pid()))},
+                        {"version", static_cast<int>(program->VersionNumber())},
+                        {"pcrPid", program->PCRPid()},
+                        {"descriptors", DescribeLoop(*program, text)},
+                        {"streams", streams}});
+    }
+    return pmts;
+}
+
+Json Builder::TransportStream(const TCDVBItemMux& mux) const
+{
+    Json services = Json::array();
+    for (int k = 0; k < mux.NumOfDescriptors(kTagServiceList); ++k) {
+        const auto* list =
+            dynamic_cast<const TCDescServiceList*>(mux.Descriptor(kTagServiceList, static_cast<unsigned>(k)));
+        for (int s = 0; list != nullptr && s < list->NumberOfLoop(); ++s) {
+            const unsigned short serviceId = list->ServiceId(s);
+            const IDescLogicalChannel* lcn = mux.LCNDescriptorbyPriority(true, serviceId, context.country, true);
+            const unsigned int number = lcn ? lcn->LogicalChannelNumber(serviceId) : kNoChannelNumber;
+            const auto* from = dynamic_cast<const TCBaseDesc*>(lcn);
+            services.push_back({{"serviceId", serviceId},
+                                {"serviceType", list->ServiceType(s)},
+                                {"channelNumber", number != kNoChannelNumber ? Json(number) : Json(nullptr)},
+                                {"channelNumberTag", from ? HexId(from->Tag()) : Json(nullptr)}});
+        }
+    }
+    return {{"transportStreamId", mux.TransportStreamId()},
+            {"originalNetworkId", mux.OriginalNetworkId()},
+            {"descriptors", DescribeLoop(mux, text)},
+            {"services", services}};
+}
+
+Json Builder::Nits() const
+{
+    Json nits = Json::array();
+    for (const auto& entry : router.Nits()) {
+        std::list<unsigned short> ids;
+        entry.second->NetworkIds(ids);
+        for (unsigned short id : ids) {
+            const TCDVBNITInstance* network = entry.second->GetInstance(id);
+            Json streams = Json::array();
+            for (int i = 0; i < network->NumOfDVBItemMux(); ++i)
+                streams.push_back(TransportStream(*network->DVBItemMuxOfIndex(static_cast<unsigned>(i))));
+            nits.push_back({{"tableId", HexId(entry.first)},
+                            {"networkId", id},
+                            {"descriptors", DescribeLoop(*network, text)},
+                            {"transportStreams", streams}});
+        }
+    }
+    return nits;
+}
+
+Json Builder::SdtService(const TCDVBSDTItemService& service) const
+{
+    Json out = {{"serviceId", service.ServiceId()}, {"type", nullptr}, {"provider", nullptr}, {"name", nullptr}};
+    if (const auto* d = dynamic_cast<const TCDescService*>(service.Descriptor(kTagService, 0))) {
+        const Json described = DescribeDescriptor(*d, text);
+        const Json& fields = described.at("fields");
+        out["type"] = fields.at("serviceType");
+        out["provider"] = fields.at("provider");
+        out["name"] = fields.at("name");
+    }
+    out["runningStatus"] = service.RunningStatus();
+    out["freeCA"] = service.FreeCAMode() != 0;
+    out["eitSchedule"] = service.EITScheduleFlag() != 0;
+    out["eitPresentFollowing"] = service.EITPresentFollowingFlag() == 1;
+    out["descriptors"] = DescribeLoop(service, text);
+    return out;
+}
+
+Json Builder::Sdts() const
+{
+    Json sdts = Json::array();
+    for (const auto& entry : router.Sdts()) {
+        for (int i = 0; i < entry.second->NumOfDVBSDTInstance(); ++i) {
+            const TCDVBSDTInstance* ts = entry.second->DVBSDTInstanceOfIndex(static_cast<unsigned>(i));
+            Json services = Json::array();
+            for (int k = 0; k < ts->NumOfDVBSDTItemService(); ++k)
+                services.push_back(SdtService(*ts->DVBSDTItemServiceOfIndex(static_cast<unsigned>(k))));
+            sdts.push_back({{"tableId", HexId(entry.first)},
+                            {"originalNetworkId", ts->OriginalNetworkId()},
+                            {"transportStreamId", ts->TransportStreamId()},
+                            {"version", static_cast<int>(ts->VersionNumber())},
+                            {"services", services}});
+        }
+    }
+    return sdts;
+}
+
+Json Builder::Event(const EitCollector::Event& event) const
+{
+    // Events keep their loop raw; it is decoded here as a guide would, under the event's table id.
+    TCDescriptorHash hash;
+    TCDescriptor loop(context.handle);
+    if (!event.descriptors.empty())
+        loop.Parse(event.descriptors.data(), static_cast<int>(event.descriptors.size()), hash, event.tableId);
+    Json out = {{"tableId", HexId(event.tableId)},
+                {"section", event.section},
+                {"eventId", event.eventId},
+                {"start", event.startTime == kUndefinedTime ? Json(nullptr) : Json(IsoTimeSince1980(event.startTime))},
+                {"duration", event.duration == kUndefinedDuration ? Json(nullptr) : Json(event.duration)},
+                {"runningStatus", event.runningStatus},
+                {"freeCA", event.freeCaMode != 0},
+                {"descriptors", DescribeLoop(hash, text)}};
+    if (hash.NumOfDescriptors() == 0 && !event.descriptors.empty())
+        out["undecoded"] = HexBytes(event.descriptors.data(), event.descriptors.size());
+    return out;
+}
+
+Json Builder::Events() const
+{
+    Json services = Json::array();
+    for (const auto& entry : router.Events().EventsByService()) {
+        Json events = Json::array();
+        for (const EitCollector::Event* event : entry.second)
+            events.push_back(Event(*event));
+        services.push_back({{"originalNetworkId", std::get<0>(entry.first)},
+                            {"transportStreamId", std::get<1>(entry.first)},
+                            {"serviceId", std::get<2>(entry.first)},
+                            {"events", events}});
+    }
+    return services;
+}
+
+Json Builder::Tdt() const
+{
+    if (router.Tdt() == nullptr || !router.Complete(kNoPid, 0x70).value_or(false))
+        return nullptr;
+    return {{"time", IsoTimeSince1980(router.Tdt()->Time())}};
+}
+
+Json Builder::Tot() const
+{
+    const TCDVBTOTParser* tot = router.Tot();
+    if (tot == nullptr || !router.Complete(kNoPid, 0x73).value_or(false))
+        return nullptr;
+    return {{"time", IsoTimeSince1980(tot->Time())}, {"descriptors", DescribeLoop(*tot, text)}};
+}
+
+Json Builder::Lcn() const
+{
+    const TCDVBLCNParser* lcn = router.Lcn();
+    if (lcn == nullptr)
+        return nullptr;
+    Json records = Json::array();
+    for (const auto& record : lcn->GetLCNInfo())
+        records.push_back({{"key", {record.first.m_first, record.first.m_second, record.first.m_third}},
+                           {"channelNumber", record.second.m_logicalChannelNumber},
+                           {"visible", record.second.m_visible != 0},
+                           {"extra", record.second.m_extra}});
+    Json pids = Json::array();
+    for (uint16_t pid : router.LcnPids())
+        pids.push_back(PidValue(pid));
+    return {{"pids", pids},
+            {"header", {lcn->HeaderValue1(), lcn->HeaderValue2(), lcn->HeaderValue3()}},
+            {"records", records}};
+}
+
+Json Builder::Summary() const
+{
+    Json demux = {{"packetSize", stats.packetSize},
+                  {"packets", stats.packets},
+                  {"syncLosses", stats.syncLosses},
+                  {"skippedBytes", stats.skippedBytes},
+                  {"truncatedPackets", stats.truncatedPackets},
+                  {"continuityErrors", stats.continuityErrors},
+                  {"transportErrors", stats.transportErrors},
+                  {"duplicates", stats.duplicates},
+                  {"sections", stats.sections},
+                  {"crcErrors", stats.crcErrors},
+                  {"droppedSections", stats.droppedSections},
+                  {"unfinishedSections", stats.unfinishedSections}};
+    Json pids = Json::array();
+    Json tables = Json::array();
+    for (const auto& entry : stats.pids) {
+        const uint16_t pid = entry.first;
+        const PidStats& p = entry.second;
+        pids.push_back({{"pid", PidValue(pid)},
+                        {"packets", p.packets},
+                        {"continuityErrors", p.continuityErrors},
+                        {"transportErrors", p.transportErrors},
+                        {"sections", p.sections},
+                        {"crcErrors", p.crcErrors},
+                        {"droppedSections", p.droppedSections}});
+        std::set<uint8_t> tableIds;
+        for (const auto& t : p.sectionsByTable)
+            tableIds.insert(t.first);
+        for (const auto& t : p.crcErrorsByTable)
+            tableIds.insert(t.first);
+        for (uint8_t tableId : tableIds) {
+            const auto counts = router.Counts().find({pid, tableId});
+            const auto sections = p.sectionsByTable.find(tableId);
+            const auto crcErrors = p.crcErrorsByTable.find(tableId);
+            const std::string parser = router.ParserName(pid, tableId);
+            const std::optional<bool> complete = router.Complete(pid, tableId);
+            Json versions = Json::array();
+            if (counts != router.Counts().end())
+                versions = counts->second.versions;
+            tables.push_back({{"pid", PidValue(pid)},
+                              {"tableId", HexId(tableId)},
+                              {"table", TableName(pid, tableId)},
+                              {"parser", parser.empty() ? Json(nullptr) : Json(parser)},
+                              {"sections", sections != p.sectionsByTable.end() ? sections->second : 0},
+                              {"versions", versions},
+                              {"complete", complete ? Json(*complete) : Json(nullptr)},
+                              {"crcErrors", crcErrors != p.crcErrorsByTable.end() ? crcErrors->second : 0}});
+        }
+    }
+    return {{"demux", demux},
+            {"routing", {{"routed", router.Routed()}, {"noParser", router.NoParser()}}},
+            {"pids", pids},
+            {"tables", tables}};
+}
+
+} // namespace
+
+Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContext& context)
+{
+    const Builder b{router, stats, context, TextDecoder(context.handle, context.language)};
+    return {{"input",
+             {{"kind", context.sectionsInput ? "sections" : "transport stream"},
+              {"packetSize", stats.packetSize != 0 ? Json(stats.packetSize) : Json(nullptr)},
+              {"bytes", context.bytes}}},
+            {"pat", b.Pat()},
+            {"pmts", b.Pmts()},
+            {"nits", b.Nits()},
+            {"sdts", b.Sdts()},
+            {"eit", b.Events()},
+            {"tdt", b.Tdt()},
+            {"tot", b.Tot()},
+            {"lcn", b.Lcn()},
+            {"summary", b.Summary()}};
+}
+
+} // namespace zuminspect

@@ -1,0 +1,252 @@
+#include "inspect/Renderers.h"
+
+#include <array>
+#include <cstdio>
+#include <string>
+
+#include "inspect/Text.h"
+
+namespace zuminspect {
+
+namespace {
+
+constexpr int kStep = 2;
+// Columns of the two summary tables.
+constexpr char kPidRow[] = "%-7s %9s %10s %10s %9s %10s %8s";
+constexpr char kTableRow[] = "%-7s %-24s %9s %10s %9s %9s  %s";
+
+std::string Value(const Json& v)
+{
+    if (v.is_null())
+        return "-";
+    if (v.is_boolean())
+        return v.get<bool>() ? "yes" : "no";
+    return v.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+std::string HexOr(const Json& v, int digits)
+{
+    return v.is_number() ? Hex(v.get<unsigned long long>(), digits) : std::string("-");
+}
+
+std::string Duration(const Json& seconds)
+{
+    if (!seconds.is_number())
+        return "-";
+    const unsigned long long s = seconds.get<unsigned long long>();
+    char buffer[32];
+    std::snprintf(buffer, sizeof buffer, "%02llu:%02llu:%02llu", s / 3600, s / 60 % 60, s % 60);
+    return buffer;
+}
+
+class Tree {
+public:
+    explicit Tree(std::ostream& out) : m_out(out) {}
+
+    void Line(int depth, const std::string& text)
+    {
+        m_out << std::string(static_cast<size_t>(depth * kStep), ' ') << text << '\n';
+    }
+
+    // Scalars on the head line, lists and objects indented below it.
+    void Object(int depth, const std::string& head, const Json& fields)
+    {
+        std::string line = head;
+        const char* separator = head == "-" ? " " : "  ";
+        for (const auto& item : fields.items()) {
+            if (item.value().is_structured())
+                continue;
+            line += separator + item.key() + ": " + Value(item.value());
+            separator = ", ";
+        }
+        Line(depth, line);
+        for (const auto& item : fields.items()) {
+            const Json& v = item.value();
+            if (v.is_object()) {
+                Object(depth + 1, item.key() + ":", v);
+            } else if (v.is_array() && !v.empty() && v.front().is_structured()) {
+                Line(depth + 1, item.key() + ":");
+                for (const Json& element : v)
+                    Object(depth + 2, "-", element.is_object() ? element : Json{{"values", element}});
+            } else if (v.is_array()) {
+                std::string list;
+                for (const Json& element : v)
+                    list += (list.empty() ? "" : ", ") + Value(element);
+                Line(depth + 1, item.key() + ": " + (list.empty() ? "none" : list));
+            }
+        }
+    }
+
+    void Descriptors(int depth, const Json& list)
+    {
+        for (const Json& d : list) {
+            const std::string head = "[" + d.at("tag").get<std::string>() + "] " + d.at("class").get<std::string>();
+            if (d.contains("fields"))
+                Object(depth, head, d.at("fields"));
+            else
+                Line(depth, head + "  raw: " + d.value("raw", std::string()));
+        }
+    }
+
+    void Pat(const Json& pat)
+    {
+        if (pat.is_null())
+            return;
+        Line(0, "PAT  transport stream " + HexOr(pat["transportStreamId"], 4) + ", network PID " +
+                    HexOr(pat["networkPid"], 4));
+        for (const Json& p : pat["programs"])
+            Line(1, "program " + HexOr(p["programNumber"], 4) + "  PMT PID " + HexOr(p["pmtPid"], 4));
+    }
+
+    void Pmts(const Json& pmts)
+    {
+        for (const Json& pmt : pmts) {
+            Line(0, "PMT  program " + HexOr(pmt["programNumber"], 4) + " on PID " + HexOr(pmt["pid"], 4) +
+                        ", version " + Value(pmt["version"]) + ", PCR PID " + HexOr(pmt["pcrPid"], 4));
+            Descriptors(1, pmt["descriptors"]);
+            for (const Json& s : pmt["streams"]) {
+                Line(1, "stream type " + HexOr(s["streamType"], 2) + "  PID " + HexOr(s["pid"], 4));
+                Descriptors(2, s["descriptors"]);
+            }
+        }
+    }
+
+    void Nits(const Json& nits)
+    {
+        for (const Json& nit : nits) {
+            Line(0, "NIT " + nit["tableId"].get<std::string>() + "  network " + HexOr(nit["networkId"], 4));
+            Descriptors(1, nit["descriptors"]);
+            for (const Json& ts : nit["transportStreams"]) {
+                Line(1, "transport stream " + HexOr(ts["transportStreamId"], 4) + ", original network " +
+                            HexOr(ts["originalNetworkId"], 4));
+                Descriptors(2, ts["descriptors"]);
+                for (const Json& s : ts["services"]) {
+                    const Json& tag = s["channelNumberTag"];
+                    Line(2, "service " + HexOr(s["serviceId"], 4) + "  type " + HexOr(s["serviceType"], 2) +
+                                "  channel " + Value(s["channelNumber"]) +
+                                (tag.is_null() ? "" : " (from " + tag.get<std::string>() + ")"));
+                }
+            }
+        }
+    }
+
+    void Sdts(const Json& sdts)
+    {
+        for (const Json& sdt : sdts) {
+            Line(0, "SDT " + sdt["tableId"].get<std::string>() + "  original network " +
+                        HexOr(sdt["originalNetworkId"], 4) + ", transport stream " +
+                        HexOr(sdt["transportStreamId"], 4) + ", version " + Value(sdt["version"]));
+            for (const Json& s : sdt["services"]) {
+                Line(1, "service " + HexOr(s["serviceId"], 4) + " " + Value(s["name"]) + "  type " +
+                            HexOr(s["type"], 2) + ", provider " + Value(s["provider"]) + ", running " +
+                            Value(s["runningStatus"]) + ", free CA " + Value(s["freeCA"]));
+                Descriptors(2, s["descriptors"]);
+            }
+        }
+    }
+
+    void Events(const Json& services)
+    {
+        for (const Json& service : services) {
+            Line(0, "EIT  service " + HexOr(service["serviceId"], 4) + " (original network " +
+                        HexOr(service["originalNetworkId"], 4) + ", transport stream " +
+                        HexOr(service["transportStreamId"], 4) + ")");
+            for (const Json& e : service["events"]) {
+                Line(1, e["tableId"].get<std::string>() + " event " + HexOr(e["eventId"], 4) + "  " +
+                            (e["start"].is_null() ? "-" : e["start"].get<std::string>()) + "  " +
+                            Duration(e["duration"]) + "  running " + Value(e["runningStatus"]) + ", free CA " +
+                            Value(e["freeCA"]));
+                Descriptors(2, e["descriptors"]);
+                if (e.contains("undecoded"))
+                    Line(2, "undecoded: " + e["undecoded"].get<std::string>());
+            }
+        }
+    }
+
+    void Times(const Json& tdt, const Json& tot)
+    {
+        if (!tdt.is_null())
+            Line(0, "TDT  " + tdt["time"].get<std::string>());
+        if (!tot.is_null()) {
+            Line(0, "TOT  " + tot["time"].get<std::string>());
+            Descriptors(1, tot["descriptors"]);
+        }
+    }
+
+    void Lcn(const Json& lcn)
+    {
+        if (lcn.is_null())
+            return;
+        std::string pids;
+        for (const Json& pid : lcn["pids"])
+            pids += " " + HexOr(pid, 4);
+        Line(0, "LCN table on PID" + pids);
+        for (const Json& r : lcn["records"])
+            Object(1, "record", r);
+    }
+
+    void Summary(const Json& summary)
+    {
+        const Json& d = summary["demux"];
+        Line(0, "Summary");
+        Line(1, "demux: " + Value(d["packets"]) + " packets of " + Value(d["packetSize"]) + " bytes, " +
+                    Value(d["sections"]) + " sections, " + Value(d["syncLosses"]) + " sync losses, " +
+                    Value(d["skippedBytes"]) + " bytes skipped, " + Value(d["continuityErrors"]) +
+                    " continuity errors, " + Value(d["crcErrors"]) + " CRC errors, " + Value(d["droppedSections"]) +
+                    " sections dropped, " + Value(d["truncatedPackets"]) + " truncated");
+        Line(1, "routing: " + Value(summary["routing"]["routed"]) + " sections to parsers, " +
+                    Value(summary["routing"]["noParser"]) + " without parser");
+        Line(1, Format(kPidRow, {"PID", "packets", "CC errors", "TEI", "sections", "CRC errors", "dropped"}));
+        for (const Json& p : summary["pids"])
+            Line(1, Format(kPidRow, {HexOr(p["pid"], 4), Value(p["packets"]), Value(p["continuityErrors"]),
+                                     Value(p["transportErrors"]), Value(p["sections"]), Value(p["crcErrors"]),
+                                     Value(p["droppedSections"])}));
+        Line(1, Format(kTableRow, {"PID", "table", "sections", "CRC errors", "complete", "versions", "parser"}));
+        for (const Json& t : summary["tables"]) {
+            std::string versions;
+            for (const Json& v : t["versions"])
+                versions += (versions.empty() ? "" : ",") + Value(v);
+            const std::string name = t["table"].get<std::string>();
+            const std::string table = t["tableId"].get<std::string>() + (name.empty() ? "" : " " + name);
+            const std::string parser = t["parser"].is_null() ? "no parser" : t["parser"].get<std::string>();
+            Line(1, Format(kTableRow, {HexOr(t["pid"], 4), table, Value(t["sections"]), Value(t["crcErrors"]),
+                                       Value(t["complete"]), versions.empty() ? "-" : versions, parser}));
+        }
+    }
+
+private:
+    // Seven columns of a summary table.
+    static std::string Format(const char* format, const std::array<std::string, 7>& c)
+    {
+        char buffer[256];
+        std::snprintf(buffer, sizeof buffer, format, c[0].c_str(), c[1].c_str(), c[2].c_str(), c[3].c_str(),
+                      c[4].c_str(), c[5].c_str(), c[6].c_str());
+        return buffer;
+    }
+
+    std::ostream& m_out;
+};
+
+} // namespace
+
+void RenderJson(const Json& model, std::ostream& out)
+{
+    out << model.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
+}
+
+void RenderTree(const Json& model, std::ostream& out)
+{
+    Tree tree(out);
+    const Json& input = model["input"];
+    tree.Line(0, "Input  " + input["kind"].get<std::string>() + ", " + Value(input["bytes"]) + " bytes");
+    tree.Pat(model["pat"]);
+    tree.Pmts(model["pmts"]);
+    tree.Nits(model["nits"]);
+    tree.Sdts(model["sdts"]);
+    tree.Events(model["eit"]);
+    tree.Times(model["tdt"], model["tot"]);
+    tree.Lcn(model["lcn"]);
+    tree.Summary(model["summary"]);
+}
+
+} // namespace zuminspect

@@ -1,0 +1,55 @@
+#ifndef ZUM_TOOLS_INSPECT_RENDERERS_H
+#define ZUM_TOOLS_INSPECT_RENDERERS_H
+
+// The model and its two renderings. Keys below are stable: new keys may be
+// added, none renamed or removed. Ids, PIDs and counts are JSON numbers;
+// table ids and descriptor tags are hex strings ("0x4E"); times are ISO 8601
+// UTC strings; a PID is null for input read as a file of sections.
+//
+// {
+//   "input":   {"kind": "transport stream"|"sections", "packetSize": 188|192|204|null, "bytes"},
+//   "pat":     null | {"transportStreamId", "networkPid": n|null, "programs": [{"programNumber", "pmtPid"}]},
+//   "pmts":    [{"programNumber", "pid", "version", "pcrPid", "descriptors": [D],
+//                "streams": [{"streamType", "pid", "descriptors": [D]}]}],
+//   "nits":    [{"tableId", "networkId", "descriptors": [D],
+//                "transportStreams": [{"transportStreamId", "originalNetworkId", "descriptors": [D],
+//                  "services": [{"serviceId", "serviceType", "channelNumber": n|null,
+//                                "channelNumberTag": tag of the answering descriptor|null}]}]}],
+//   "sdts":    [{"tableId", "originalNetworkId", "transportStreamId", "version",
+//                "services": [{"serviceId", "type", "provider", "name" (null without a service
+//                  descriptor), "runningStatus", "freeCA", "eitSchedule", "eitPresentFollowing",
+//                  "descriptors": [D]}]}],
+//   "eit":     [{"originalNetworkId", "transportStreamId", "serviceId",
+//                "events": [{"tableId", "section", "eventId", "start": time|null, "duration": seconds|null,
+//                  "runningStatus", "freeCA", "descriptors": [D],
+//                  "undecoded": hex (only when the loop gave no descriptor)}]}],
+//   "tdt":     null | {"time"},
+//   "tot":     null | {"time", "descriptors": [D]},
+//   "lcn":     null | {"pids": [..], "header": [3 numbers],
+//                      "records": [{"key": [3 numbers], "channelNumber", "visible", "extra"}]},
+//   "summary": {"demux": {"packetSize", "packets", "syncLosses", "skippedBytes", "truncatedPackets",
+//                         "continuityErrors", "transportErrors", "duplicates", "sections", "crcErrors",
+//                         "droppedSections", "unfinishedSections"},
+//               "routing": {"routed", "noParser"},
+//               "pids": [{"pid", "packets", "continuityErrors", "transportErrors", "sections", "crcErrors",
+//                         "droppedSections"}],
+//               "tables": [{"pid", "tableId", "table": name|"", "parser": class|null, "sections",
+//                           "versions": [..], "complete": bool|null (null: no parser), "crcErrors"}]}
+// }
+//
+// D, a descriptor: {"tag", "class", "fields": {...}} when a describer knows the class,
+// else {"tag", "class", "raw": "hex bytes"}.
+
+#include <ostream>
+
+#include "inspect/Json.h"
+
+namespace zuminspect {
+
+void RenderJson(const Json& model, std::ostream& out);
+// The same model as an indented tree for reading.
+void RenderTree(const Json& model, std::ostream& out);
+
+} // namespace zuminspect
+
+#endif

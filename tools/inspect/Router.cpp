@@ -1,0 +1,201 @@
+#include "inspect/Router.h"
+
+#include <list>
+
+#include "dvb/DVBEITParser.h"
+#include "dvb/DVBLCNParser.h"
+#include "dvb/DVBNITParser.h"
+#include "dvb/DVBSDTParser.h"
+#include "dvb/DVBTDTParser.h"
+#include "dvb/DVBTOTParser.h"
+#include "inspect/TsDemux.h"
+#include "psi/PATParser.h"
+#include "psi/PMTParser.h"
+
+namespace zuminspect {
+
+namespace {
+
+constexpr uint8_t kTidPat = 0x00;
+constexpr uint8_t kTidPmt = 0x02;
+constexpr uint8_t kTidLcn = 0x85;
+
+bool IsEit(uint8_t tableId)
+{
+    return (tableId >= 0x4E && tableId <= 0x6F) || (tableId >= 0x80 && tableId <= 0x9F);
+}
+
+template <class Parser, class... Args>
+Parser* Lazy(std::unique_ptr<Parser>& slot, const Args&... args)
+{
+    if (!slot) {
+        slot = std::make_unique<Parser>(args...);
+        slot->Initialize();
+    }
+    return slot.get();
+}
+
+template <class Range, class Valid>
+bool AllValid(const Range& range, Valid valid)
+{
+    bool any = false;
+    for (const auto& item : range) {
+        any = true;
+        if (!valid(item))
+            return false;
+    }
+    return any;
+}
+
+} // namespace
+
+Router::Router(const ZUMHandle& handle, bool allPids) : m_handle(handle), m_allPids(allPids), m_events(handle) {}
+
+Router::~Router() = default;
+
+bool Router::Wants(uint16_t pid) const
+{
+    return m_allPids || pid == kPidPat || pid == kPidNit || pid == kPidSdt || pid == kPidEit || pid == kPidTime ||
+           pid == kNoPid || m_pmtPids.count(pid) > 0 || pid == m_networkPid;
+}
+
+Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
+{
+    // Sections read from a file of sections have no PID: the table id alone decides.
+    const bool any = pid == kNoPid;
+    if (tableId == kTidPat && (any || pid == kPidPat))
+        return Kind::Pat;
+    // Collecting every PID, a PMT is taken wherever it comes, PAT or not.
+    if (tableId == kTidPmt && (any || m_allPids || m_pmtPids.count(pid) > 0))
+        return Kind::Pmt;
+    if ((tableId == 0x40 || tableId == 0x41) && (any || pid == kPidNit || pid == m_networkPid))
+        return Kind::Nit;
+    if ((tableId == 0x42 || tableId == 0x46) && (any || pid == kPidSdt))
+        return Kind::Sdt;
+    // 0x85 is a compressed EIT on the EIT PID and the channel number table anywhere else.
+    if (IsEit(tableId) && (pid == kPidEit || (any && tableId != kTidLcn)))
+        return Kind::Eit;
+    if (tableId == 0x70 && (any || pid == kPidTime))
+        return Kind::Tdt;
+    if (tableId == 0x73 && (any || pid == kPidTime))
+        return Kind::Tot;
+    if (tableId == kTidLcn)
+        return Kind::Lcn;
+    return Kind::None;
+}
+
+TCSectionParser* Router::m_Parser(Kind kind, uint8_t tableId)
+{
+    switch (kind) {
+    case Kind::Pat: return Lazy(m_pat, m_handle);
+    case Kind::Pmt: return Lazy(m_pmt, m_handle);
+    case Kind::Nit: return Lazy(m_nits[tableId], static_cast<int>(tableId), m_handle);
+    case Kind::Sdt: return Lazy(m_sdts[tableId], static_cast<int>(tableId), m_handle);
+    case Kind::Eit: return Lazy(m_eits[tableId], static_cast<int>(tableId), m_handle);
+    case Kind::Tdt: return Lazy(m_tdt, m_handle);
+    case Kind::Tot: return Lazy(m_tot, m_handle);
+    case Kind::Lcn: return Lazy(m_lcn, m_handle);
+    case Kind::None: break;
+    }
+    return nullptr;
+}
+
+void Router::OnSection(uint16_t pid, const uint8_t* section, size_t size)
+{
+    if (section == nullptr || size < 3)
+        return;
+    const uint8_t tableId = section[0];
+    TableCounts& counts = m_counts[{pid, tableId}];
+    if ((section[1] & 0x80) != 0 && size >= 8)
+        counts.versions.insert((section[5] >> 1) & 0x1F);
+
+    const Kind kind = m_KindOf(pid, tableId);
+    TCSectionParser* parser = m_Parser(kind, tableId);
+    if (parser == nullptr) {
+        ++counts.noParser;
+        ++m_noParser;
+        return;
+    }
+    ++counts.routed;
+    ++m_routed;
+    const bool taken = parser->Parse(static_cast<short>(pid), section);
+    if (kind == Kind::Pat)
+        m_LearnPids();
+    else if (kind == Kind::Eit && taken)
+        m_events.Take(section, size);
+    else if ((kind == Kind::Tdt || kind == Kind::Tot) && taken)
+        m_timeTablesTaken.insert(tableId);
+    else if (kind == Kind::Lcn)
+        m_lcnPids.insert(pid);
+}
+
+void Router::m_LearnPids()
+{
+    for (int i = 0; i < m_pat->NumOfProgramList(); ++i) {
+        const int pid = m_pat->ProgramPID(static_cast<unsigned short>(m_pat->ProgramNumber(static_cast<unsigned>(i))));
+        if (pid >= 0)
+            m_pmtPids.insert(static_cast<uint16_t>(pid & 0x1FFF));
+    }
+    if (m_pat->ZeroProgramPid() >= 0)
+        m_networkPid = m_pat->ZeroProgramPid() & 0x1FFF;
+}
+
+std::string Router::ParserName(uint16_t pid, uint8_t tableId) const
+{
+    switch (m_KindOf(pid, tableId)) {
+    case Kind::Pat: return "TCPATParser";
+    case Kind::Pmt: return "TCPMTParser";
+    case Kind::Nit: return "TCDVBNITParser";
+    case Kind::Sdt: return "TCDVBSDTParser";
+    case Kind::Eit: return "TCDVBEITParser";
+    case Kind::Tdt: return "TCDVBTDTParser";
+    case Kind::Tot: return "TCDVBTOTParser";
+    case Kind::Lcn: return "TCDVBLCNParser";
+    case Kind::None: break;
+    }
+    return std::string();
+}
+
+std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
+{
+    switch (m_KindOf(pid, tableId)) {
+    case Kind::Pat: return m_pat && m_pat->IsRecv();
+    case Kind::Pmt: {
+        if (!m_pmt)
+            return false;
+        std::list<const TCPMTInstance*> ofPid;
+        for (int i = 0; i < m_pmt->NumOfPMTInstance(); ++i) {
+            const TCPMTInstance* instance = m_pmt->PMTInstanceOfIndex(static_cast<unsigned>(i));
+            if (pid == kNoPid || static_cast<uint16_t>(instance->Pid()) == pid)
+                ofPid.push_back(instance);
+        }
+        return AllValid(ofPid, [](const TCPMTInstance* p) { return p->IsValid(); });
+    }
+    case Kind::Nit: {
+        const auto it = m_nits.find(tableId);
+        if (it == m_nits.end())
+            return false;
+        std::list<unsigned short> ids;
+        it->second->NetworkIds(ids);
+        return AllValid(ids, [&](unsigned short id) { return it->second->GetInstance(id)->IsValid(); });
+    }
+    case Kind::Sdt: {
+        const auto it = m_sdts.find(tableId);
+        if (it == m_sdts.end())
+            return false;
+        std::list<const TCDVBSDTInstance*> instances;
+        for (int i = 0; i < it->second->NumOfDVBSDTInstance(); ++i)
+            instances.push_back(it->second->DVBSDTInstanceOfIndex(static_cast<unsigned>(i)));
+        return AllValid(instances, [](const TCDVBSDTInstance* p) { return p->IsValid(); });
+    }
+    case Kind::Eit: return m_events.Complete(tableId);
+    // The time tables keep no section state: one good section is the whole table.
+    case Kind::Tdt:
+    case Kind::Tot: return m_timeTablesTaken.count(tableId) > 0;
+    case Kind::Lcn: return m_lcn && m_lcn->IsRecv();
+    case Kind::None: break;
+    }
+    return std::nullopt;
+}
+
+} // namespace zuminspect

@@ -1,0 +1,113 @@
+#ifndef ZUM_TOOLS_INSPECT_ROUTER_H
+#define ZUM_TOOLS_INSPECT_ROUTER_H
+
+// Hands every section from the demultiplexer to the parser of its table id,
+// the way a receiver's section filters would: the PAT on PID 0 names the PMT
+// and network PIDs, the DVB SI tables come on their well-known PIDs. Counts
+// what went where, so that no section is lost without a trace.
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <utility>
+
+#include <zum-platform/ZUMHandle.h>
+
+#include "inspect/EitCollector.h"
+
+class TCSectionParser;
+class TCPATParser;
+class TCPMTParser;
+class TCDVBNITParser;
+class TCDVBSDTParser;
+class TCDVBEITParser;
+class TCDVBTDTParser;
+class TCDVBTOTParser;
+class TCDVBLCNParser;
+
+namespace zuminspect {
+
+constexpr uint16_t kPidPat = 0x0000;
+constexpr uint16_t kPidNit = 0x0010;
+constexpr uint16_t kPidSdt = 0x0011;
+constexpr uint16_t kPidEit = 0x0012;
+constexpr uint16_t kPidTime = 0x0014;
+
+class Router {
+public:
+    using TableKey = std::pair<uint16_t, uint8_t>; // PID, table id
+    struct TableCounts {
+        uint64_t routed = 0;    // handed to a parser
+        uint64_t noParser = 0;  // nothing parses this table id on this PID
+        std::set<int> versions; // version_number of the long-form sections
+    };
+    template <class Parser>
+    using ByTableId = std::map<uint8_t, std::unique_ptr<Parser>>;
+
+    // `allPids`: collect sections on every PID, not only those a receiver filters,
+    // and take a PMT on any of them.
+    Router(const ZUMHandle& handle, bool allPids);
+    ~Router();
+    Router(const Router&) = delete;
+    Router& operator=(const Router&) = delete;
+
+    // One whole section, size section_length + 3, from the demultiplexer.
+    void OnSection(uint16_t pid, const uint8_t* section, size_t size);
+    // The demultiplexer's PID filter.
+    bool Wants(uint16_t pid) const;
+
+    const std::map<TableKey, TableCounts>& Counts() const { return m_counts; }
+    uint64_t Routed() const { return m_routed; }
+    uint64_t NoParser() const { return m_noParser; }
+    // Class name of the parser that serves the table on that PID; empty for none.
+    std::string ParserName(uint16_t pid, uint8_t tableId) const;
+    // Whether that parser holds the whole table; nullopt when no parser serves it.
+    std::optional<bool> Complete(uint16_t pid, uint8_t tableId) const;
+
+    // The parsers; null, or absent from a map, when no section needed them.
+    const TCPATParser* Pat() const { return m_pat.get(); }
+    const TCPMTParser* Pmt() const { return m_pmt.get(); }
+    const ByTableId<TCDVBNITParser>& Nits() const { return m_nits; }
+    const ByTableId<TCDVBSDTParser>& Sdts() const { return m_sdts; }
+    const TCDVBTDTParser* Tdt() const { return m_tdt.get(); }
+    const TCDVBTOTParser* Tot() const { return m_tot.get(); }
+    const TCDVBLCNParser* Lcn() const { return m_lcn.get(); }
+    const std::set<uint16_t>& LcnPids() const { return m_lcnPids; }
+    const EitCollector& Events() const { return m_events; }
+
+private:
+    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn };
+
+    Kind m_KindOf(uint16_t pid, uint8_t tableId) const;
+    TCSectionParser* m_Parser(Kind kind, uint8_t tableId);
+    void m_LearnPids();
+
+    ZUMHandle m_handle;
+    bool m_allPids;
+    std::set<uint16_t> m_pmtPids;
+    int m_networkPid = -1;
+
+    std::unique_ptr<TCPATParser> m_pat;
+    std::unique_ptr<TCPMTParser> m_pmt;
+    ByTableId<TCDVBNITParser> m_nits;
+    ByTableId<TCDVBSDTParser> m_sdts;
+    ByTableId<TCDVBEITParser> m_eits;
+    std::unique_ptr<TCDVBTDTParser> m_tdt;
+    std::unique_ptr<TCDVBTOTParser> m_tot;
+    std::unique_ptr<TCDVBLCNParser> m_lcn;
+    std::set<uint16_t> m_lcnPids;
+    std::set<uint8_t> m_timeTablesTaken;
+    EitCollector m_events;
+
+    std::map<TableKey, TableCounts> m_counts;
+    uint64_t m_routed = 0;
+    uint64_t m_noParser = 0;
+};
+
+} // namespace zuminspect
+
+#endif

@@ -1,0 +1,63 @@
+#include "inspect/Session.h"
+
+#include "inspect/ModelBuilder.h"
+
+namespace zuminspect {
+
+namespace {
+
+// The two countries whose enumeration value the library acts on.
+ECountry CountryEnum(ECountryCode code)
+{
+    switch (code) {
+    case ZumPackCode('T', 'U', 'R'): return ECOUNTRY_TURKEY;
+    case ZumPackCode('C', 'H', 'N'): return ECOUNTRY_CHINA;
+    default: return ECOUNTRY_NONE;
+    }
+}
+
+} // namespace
+
+zum_platform::BinderSettings BinderSettingsFor(const InspectSettings& settings)
+{
+    zum_platform::BinderSettings binder;
+    binder.countryCode = ZumPackCode(settings.country.c_str());
+    binder.country = CountryEnum(binder.countryCode);
+    binder.operatorId = settings.operatorId;
+    binder.privateDataSpecifier = settings.privateDataSpecifier;
+    binder.languageCode = ZumPackCode(settings.language.c_str());
+    return binder;
+}
+
+Session::Session(InputKind kind, const InspectSettings& settings)
+    : m_kind(kind),
+      m_settings(settings),
+      m_router(kZUMDefaultHandle, settings.allPids),
+      m_demux([this](uint16_t pid, const uint8_t* section, size_t size) { m_router.OnSection(pid, section, size); },
+              kind)
+{
+    m_demux.SetPidFilter([this](uint16_t pid) { return m_router.Wants(pid); });
+}
+
+void Session::Feed(const uint8_t* data, size_t size)
+{
+    m_bytes += size;
+    m_demux.Feed(data, size);
+}
+
+void Session::Finish()
+{
+    m_demux.Finish();
+}
+
+Json Session::Model() const
+{
+    ModelContext context;
+    context.country = ZumPackCode(m_settings.country.c_str());
+    context.language = ZumPackCode(m_settings.language.c_str());
+    context.sectionsInput = m_kind == InputKind::Sections;
+    context.bytes = m_bytes;
+    return BuildModel(m_router, m_demux.Stats(), context);
+}
+
+} // namespace zuminspect

@@ -1,0 +1,191 @@
+// zum-inspect: decodes a transport stream, or a file of sections, with the
+// library's table parsers and prints what a receiver would learn from it.
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <iostream>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <zum-platform/PlatformConfig.h>
+
+#include "inspect/Renderers.h"
+#include "inspect/Session.h"
+
+namespace {
+
+constexpr size_t kChunk = 64 * 1024;
+constexpr int kLogDebug = 3;
+
+const char kUsage[] =
+    "usage: zum-inspect [options] [FILE|-]\n"
+    "Decodes an MPEG transport stream (188-, 192- or 204-byte packets) or a file of\n"
+    "sections back to back, read from FILE or standard input, and prints its tables.\n"
+    "\n"
+    "  --json              print the model as JSON instead of a tree\n"
+    "  --country XXX       receiver country, three letters (e.g. GBR, TUR, USA, JPN)\n"
+    "  --operator N        receiver operator number\n"
+    "  --pds 0xNNNNNNNN    receiver private data specifier\n"
+    "  --language xxx      receiver language, three letters (e.g. eng)\n"
+    "  --all-pids          collect sections on every PID, not only the SI PIDs and the\n"
+    "                      PMT PIDs of the PAT, and take a PMT on any PID\n"
+    "  --quiet-progress    no progress line on standard error\n"
+    "  -v                  library log lines from DEBUG up on standard error\n"
+    "  --help              this text\n";
+
+struct Options {
+    zuminspect::InspectSettings settings;
+    std::string path = "-";
+    bool json = false;
+    bool quietProgress = false;
+    bool verbose = false;
+};
+
+bool ParseNumber(const char* text, unsigned int& value)
+{
+    char* end = nullptr;
+    const unsigned long long v = std::strtoull(text, &end, 0);
+    if (end == text || *end != '\0' || v > 0xFFFFFFFFULL)
+        return false;
+    value = static_cast<unsigned int>(v);
+    return true;
+}
+
+bool IsCode(const std::string& text, size_t minLength)
+{
+    return text.size() >= minLength && text.size() <= 3;
+}
+
+// Nullopt after printing why the command line is wrong (or the help).
+std::optional<Options> ParseCommandLine(int argc, char** argv, int& exitCode)
+{
+    Options o;
+    bool havePath = false;
+    exitCode = 2;
+    for (int i = 1; i < argc; ++i) {
+        const std::string arg = argv[i];
+        const bool hasValue = i + 1 < argc;
+        if (arg == "--help" || arg == "-h") {
+            std::fputs(kUsage, stdout);
+            exitCode = 0;
+            return std::nullopt;
+        } else if (arg == "--json") {
+            o.json = true;
+        } else if (arg == "--quiet-progress") {
+            o.quietProgress = true;
+        } else if (arg == "--all-pids") {
+            o.settings.allPids = true;
+        } else if (arg == "-v") {
+            o.verbose = true;
+        } else if (arg == "--country" && hasValue && IsCode(argv[i + 1], 3)) {
+            o.settings.country = argv[++i];
+        } else if (arg == "--language" && hasValue && IsCode(argv[i + 1], 2)) {
+            o.settings.language = argv[++i];
+        } else if (arg == "--operator" && hasValue && ParseNumber(argv[i + 1], o.settings.operatorId)) {
+            ++i;
+        } else if (arg == "--pds" && hasValue && ParseNumber(argv[i + 1], o.settings.privateDataSpecifier)) {
+            ++i;
+        } else if ((arg == "-" || arg[0] != '-') && !havePath) {
+            o.path = arg;
+            havePath = true;
+        } else {
+            std::fprintf(stderr, "zum-inspect: bad argument \"%s\"\n%s", arg.c_str(), kUsage);
+            return std::nullopt;
+        }
+    }
+    return o;
+}
+
+// "read 1.2 MiB / 4.0 MiB" on one refreshed line, at most every 200 ms.
+class Progress {
+public:
+    Progress(bool enabled, long long total) : m_enabled(enabled), m_total(total) {}
+
+    void Update(unsigned long long done)
+    {
+        const auto now = std::chrono::steady_clock::now();
+        if (!m_enabled || now - m_last < std::chrono::milliseconds(200))
+            return;
+        m_last = now;
+        if (m_total > 0)
+            std::fprintf(stderr, "\rzum-inspect: %.1f / %.1f MiB (%d%%)", done / 1048576.0, m_total / 1048576.0,
+                         static_cast<int>(done * 100 / static_cast<unsigned long long>(m_total)));
+        else
+            std::fprintf(stderr, "\rzum-inspect: %.1f MiB", done / 1048576.0);
+        m_shown = true;
+    }
+
+    void Clear()
+    {
+        if (m_shown)
+            std::fputs("\r\033[K", stderr);
+    }
+
+private:
+    bool m_enabled;
+    long long m_total;
+    bool m_shown = false;
+    std::chrono::steady_clock::time_point m_last{};
+};
+
+long long FileSize(FILE* file)
+{
+    struct stat st;
+    return fstat(fileno(file), &st) == 0 && S_ISREG(st.st_mode) ? static_cast<long long>(st.st_size) : -1;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    int exitCode = 0;
+    const std::optional<Options> options = ParseCommandLine(argc, argv, exitCode);
+    if (!options)
+        return exitCode;
+
+    zum_platform::SetBinder(zuminspect::BinderSettingsFor(options->settings));
+    if (options->verbose)
+        zum_platform::SetLogThreshold(kLogDebug);
+
+    const bool fromStdin = options->path == "-";
+    FILE* file = fromStdin ? stdin : std::fopen(options->path.c_str(), "rb");
+    if (file == nullptr) {
+        std::fprintf(stderr, "zum-inspect: %s: %s\n", options->path.c_str(), std::strerror(errno));
+        return 1;
+    }
+
+    std::vector<uint8_t> chunk(kChunk);
+    size_t got = std::fread(chunk.data(), 1, chunk.size(), file);
+    zuminspect::Session session(zuminspect::DetectInputKind(chunk.data(), got), options->settings);
+    Progress progress(!options->quietProgress && isatty(STDERR_FILENO), FileSize(file));
+    unsigned long long done = 0;
+    while (got > 0) {
+        session.Feed(chunk.data(), got);
+        done += got;
+        progress.Update(done);
+        got = std::fread(chunk.data(), 1, chunk.size(), file);
+    }
+    progress.Clear();
+    const bool readError = std::ferror(file) != 0;
+    if (!fromStdin)
+        std::fclose(file);
+    if (readError) {
+        std::fprintf(stderr, "zum-inspect: %s: read error\n", options->path.c_str());
+        return 1;
+    }
+    session.Finish();
+
+    const zuminspect::Json model = session.Model();
+    if (options->json)
+        zuminspect::RenderJson(model, std::cout);
+    else
+        zuminspect::RenderTree(model, std::cout);
+    return std::cout.flush() ? 0 : 1;
+}
