@@ -14,6 +14,10 @@ cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DZUM_BUILD_BENCH
 cmake --build build -j "$jobs"
 ctest --test-dir build --output-on-failure -j "$jobs"
 
+echo "== benchmarks (smoke run)"
+# Each benchmark once, briefly, so that none rots; speed never fails the run.
+build/bench/zum-bench --benchmark_min_time=0.01
+
 echo "== install and consumer check"
 bash scripts/check-install.sh build
 

@@ -20,8 +20,12 @@ void TCBaseSection::InitSection()
 bool TCBaseSection::t_InitSection(int sectionNumber, int lastSectionNumber, unsigned int crc)
 {
     const int count = lastSectionNumber + 1;
-    m_pSectionCrc.reset(new unsigned int[count]);
-    m_pMultiSectionFlag.reset(new unsigned char[count]);
+    // Arrays of the same size are refilled rather than made anew; they hold
+    // m_lastSection + 1 entries, so m_lastSection must not have moved yet.
+    if (!m_pMultiSectionFlag || m_lastSection != lastSectionNumber) {
+        m_pSectionCrc.reset(new unsigned int[count]);
+        m_pMultiSectionFlag.reset(new unsigned char[count]);
+    }
     std::fill_n(m_pSectionCrc.get(), count, 0xFFFFFFFFu);
     std::fill_n(m_pMultiSectionFlag.get(), count, static_cast<unsigned char>(0));
     m_pMultiSectionFlag[sectionNumber] = 1;
@@ -50,8 +54,8 @@ int TCBaseSection::t_CheckVersion(int version, int sectionNumber, int lastSectio
 
     if (m_version == -1) {
         m_version = version;
-        m_lastSection = lastSectionNumber;
         t_InitSection(sectionNumber, lastSectionNumber, crc);
+        m_lastSection = lastSectionNumber;
         return TABLE_FIRST;
     }
 
@@ -65,8 +69,8 @@ int TCBaseSection::t_CheckVersion(int version, int sectionNumber, int lastSectio
 
     DeleteAll();
     m_version = version;
-    m_lastSection = lastSectionNumber;
     t_InitSection(sectionNumber, lastSectionNumber, crc);
+    m_lastSection = lastSectionNumber;
     return TABLE_CHANGED;
 }
 

@@ -2,6 +2,12 @@
 
 #include "Diagnostics.h"
 
+namespace {
+
+constexpr size_t kFirstCapacity = 4;
+
+} // namespace
+
 TCDescriptorHash::TCDescriptorHash(const TCDescriptorHash& other) : IDescriptorContainer()
 {
     *this = other;
@@ -16,6 +22,9 @@ void TCDescriptorHash::Add(TCBaseDesc* desc)
 {
     if (!desc)
         return;
+    // Most loops hold a handful of descriptors: one block instead of growing 1, 2, 4.
+    if (m_byArrival.empty())
+        m_byArrival.reserve(kFirstCapacity);
     m_byArrival.emplace_back(desc);
     m_byTag[desc->Tag()].push_back(desc);
 }

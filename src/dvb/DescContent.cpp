@@ -30,6 +30,7 @@ int TCDescContent::t_Parse(const unsigned char* payload, unsigned char length)
 {
     DeleteAll();
     TCByteReader reader(payload, length);
+    m_nibbles.reserve(length / 2 * 4);
     while (reader.Has(2)) {
         const unsigned int entry = reader.U16();
         m_nibbles.push_back(static_cast<unsigned char>(entry >> 12));

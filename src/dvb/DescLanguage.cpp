@@ -80,6 +80,7 @@ int TCDescTeletext::t_Parse(const unsigned char* payload, unsigned char length)
 {
     DeleteAll();
     TCByteReader reader(payload, length);
+    m_pages.reserve(length / 5);
     while (reader.Has(5)) {
         TTPage page;
         page.language = reader.U24();
@@ -145,6 +146,7 @@ int TCDescSubtitling::t_Parse(const unsigned char* payload, unsigned char length
 {
     DeleteAll();
     TCByteReader reader(payload, length);
+    m_subtitles.reserve(length / 8);
     while (reader.Has(8)) {
         TTSubtitle subtitle;
         subtitle.language = reader.U24();

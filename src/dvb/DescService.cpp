@@ -123,6 +123,7 @@ int TCDescServiceList::t_Parse(const unsigned char* payload, unsigned char lengt
 {
     DeleteAll();
     TCByteReader reader(payload, length);
+    m_entries.reserve(length / 3);
     while (reader.Has(3)) {
         TTEntry entry;
         entry.serviceId = static_cast<unsigned short>(reader.U16());

@@ -177,9 +177,25 @@ bool TCPMTParser::t_CheckIfChannelListUpdateRequired(TCPMTInstance* pInstance)
 {
     if (!ZUM_ASSERT(pInstance))
         return false;
-    TSPmtData current(pInstance);
-    TSPmtData& stored = m_pmtData[m_lastProgramNumber];
-    const bool required = current != stored || current.streamTypes.empty();
-    stored = std::move(current);
-    return required;
+    // The stored list becomes the new one in place: nodes are made only for
+    // the part that differs, and each stream type is read once.
+    std::list<unsigned char>& stored = m_pmtData[m_lastProgramNumber].streamTypes;
+    auto kept = stored.begin();
+    bool changed = false;
+    for (int i = 0; i < pInstance->NumOfElementary(); ++i) {
+        const unsigned char type = pInstance->PMTElementary(static_cast<unsigned int>(i))->StreamType();
+        if (!changed && kept != stored.end() && *kept == type) {
+            ++kept;
+            continue;
+        }
+        if (!changed)
+            kept = stored.erase(kept, stored.end());
+        changed = true;
+        stored.push_back(type);
+    }
+    if (!changed && kept != stored.end()) {
+        stored.erase(kept, stored.end());
+        changed = true;
+    }
+    return changed || stored.empty();
 }

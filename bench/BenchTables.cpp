@@ -1,0 +1,381 @@
+#include "BenchTables.h"
+
+#include <zlib.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <map>
+
+namespace zumbench {
+
+namespace {
+
+using zumtest::Concat;
+using zumtest::Desc;
+using zumtest::SectionBuilder;
+using zumtest::SectionHeader;
+
+constexpr unsigned kVersions[2] = {4, 5};
+
+constexpr uint16_t kPidPat = 0x0000;
+constexpr uint16_t kPidPmt = 0x0100;
+constexpr uint16_t kPidNit = 0x0010;
+constexpr uint16_t kPidSdt = 0x0011;
+constexpr uint16_t kPidEit = 0x0012;
+
+Bytes Text(const std::string& text)
+{
+    return Bytes(text.begin(), text.end());
+}
+
+Bytes U16(unsigned v)
+{
+    return {static_cast<uint8_t>(v >> 8), static_cast<uint8_t>(v)};
+}
+
+Bytes U32(unsigned v)
+{
+    return Concat({U16(v >> 16), U16(v)});
+}
+
+unsigned Bcd(unsigned value)
+{
+    return ((value / 10) << 4) | (value % 10);
+}
+
+// UTC start time as MJD and BCD hh mm ss; the 14th of November 2026 is MJD 61358.
+Bytes StartTime(unsigned minutesIntoDay)
+{
+    const unsigned mjd = 61358 + minutesIntoDay / (24 * 60);
+    const unsigned minutes = minutesIntoDay % (24 * 60);
+    return Concat({U16(mjd), {static_cast<uint8_t>(Bcd(minutes / 60)), static_cast<uint8_t>(Bcd(minutes % 60)), 0x00}});
+}
+
+Bytes Duration(unsigned minutes)
+{
+    return {static_cast<uint8_t>(Bcd(minutes / 60)), static_cast<uint8_t>(Bcd(minutes % 60)), 0x00};
+}
+
+SectionHeader Header(unsigned tableId, unsigned extension, unsigned version, bool dvbSi, unsigned section = 0,
+                     unsigned lastSection = 0)
+{
+    SectionHeader header;
+    header.tableId = tableId;
+    header.privateBit = dvbSi; // reserved_future_use is '1' in DVB SI, '0' in PSI
+    header.extension = extension;
+    header.version = version;
+    header.sectionNumber = section;
+    header.lastSectionNumber = lastSection;
+    return header;
+}
+
+Bytes Compress(const Bytes& data)
+{
+    uLongf size = compressBound(static_cast<uLong>(data.size()));
+    Bytes out(size);
+    if (compress(out.data(), &size, data.data(), static_cast<uLong>(data.size())) != Z_OK) {
+        std::fprintf(stderr, "zlib compress failed\n");
+        std::exit(1);
+    }
+    out.resize(size);
+    return out;
+}
+
+// ---- PAT: the network PID and 16 programs -----------------------------------
+
+Bytes Pat(unsigned version)
+{
+    SectionBuilder s(Header(0x00, kTransportStreamId, version, false));
+    s.U16(0x0000).U16(0xE000 | kPidNit);
+    for (unsigned i = 0; i < static_cast<unsigned>(kPatPrograms); ++i)
+        s.U16(kProgramNumber + i).U16(0xE000 | (kPidPmt + 0x10 * i));
+    return s.Build();
+}
+
+// ---- PMT: HD video, two audio tracks, subtitles and teletext; 12 descriptors --
+
+Bytes Pmt(unsigned version)
+{
+    SectionBuilder s(Header(0x02, kProgramNumber, version, false));
+    s.U16(0xE000 | 0x0110); // PCR on the video
+    s.Begin16();
+    s.Descriptor(0x09, Concat({U16(0x0B00), U16(0xE000 | 0x01F0)})); // CA system and ECM PID
+    s.Descriptor(0x09, Concat({U16(0x1800), U16(0xE000 | 0x01F1), {0x00, 0x01}}));
+    s.End();
+
+    auto stream = [&s](unsigned type, unsigned pid, const std::vector<Bytes>& descriptors) {
+        s.U8(type).U16(0xE000 | pid).Begin16();
+        for (const Bytes& d : descriptors)
+            s.Raw(d);
+        s.End();
+    };
+    stream(0x1B, 0x0110, {Desc(0x52, {0x01})});
+    stream(0x11, 0x0111, {Desc(0x0A, Concat({Text("eng"), {0x00}})), Desc(0x52, {0x02})});
+    stream(0x06, 0x0112, {Desc(0x0A, Concat({Text("deu"), {0x00}})), Desc(0x6A, {0x00}), Desc(0x52, {0x03})});
+    stream(0x06, 0x0113,
+           {Desc(0x59, Concat({Text("eng"), {0x10}, U16(0x0001), U16(0x0001), Text("deu"), {0x20}, U16(0x0002),
+                               U16(0x0002)})),
+            Desc(0x52, {0x04})});
+    stream(0x06, 0x0114,
+           {Desc(0x56, Concat({Text("eng"), {0x09, 0x00}, Text("deu"), {0x11, 0x50}})), Desc(0x52, {0x05})});
+    return s.Build();
+}
+
+// ---- NIT: 20 transport streams over two sections ------------------------------
+
+constexpr int kServicesPerTs = 6;
+
+Bytes TransportStream(unsigned index)
+{
+    const unsigned tsId = kTransportStreamId + index;
+    const uint32_t frequency = (474000000u + 8000000u * index) / 10; // units of 10 Hz
+    zumtest::ByteWriter w;
+    w.U16(tsId).U16(kOriginalNetworkId).Begin16();
+    w.Descriptor(0x5A, Concat({U32(frequency),
+                               {0x1F,   // 8 MHz, high priority, no time slicing, no MPE-FEC
+                                0x82,   // 64-QAM, non-hierarchical, code rate 2/3
+                                0x02},  // guard interval 1/32, 8k mode, no other frequency
+                               U32(0xFFFFFFFF)}));
+    Bytes serviceList, channels;
+    for (unsigned j = 0; j < static_cast<unsigned>(kServicesPerTs); ++j) {
+        const unsigned serviceId = ((index + 1) << 8) | (j + 1);
+        const uint8_t type = j == kServicesPerTs - 1 ? 0x02 : (j % 2 ? 0x16 : 0x19);
+        serviceList.insert(serviceList.end(), {static_cast<uint8_t>(serviceId >> 8), static_cast<uint8_t>(serviceId),
+                                               type});
+        const unsigned entry = 0xFC00 | (index * kServicesPerTs + j + 1); // visible, reserved bits set
+        channels.insert(channels.end(), {static_cast<uint8_t>(serviceId >> 8), static_cast<uint8_t>(serviceId),
+                                         static_cast<uint8_t>(entry >> 8), static_cast<uint8_t>(entry)});
+    }
+    w.Descriptor(0x41, serviceList);
+    w.Descriptor(0x5F, U32(kPrivateDataSpecifier));
+    w.Descriptor(0x83, channels);
+    w.End();
+    return w.Data();
+}
+
+std::vector<Bytes> Nit(unsigned version)
+{
+    constexpr unsigned kSections = 2;
+    constexpr unsigned kPerSection = kNitTransportStreams / kSections;
+    std::vector<Bytes> sections;
+    for (unsigned section = 0; section < kSections; ++section) {
+        SectionBuilder s(Header(0x40, kNetworkId, version, true, section, kSections - 1));
+        s.Begin16().Descriptor(0x40, Text("ZUM Benchmark Network")).End();
+        s.Begin16();
+        for (unsigned i = 0; i < kPerSection; ++i)
+            s.Raw(TransportStream(section * kPerSection + i));
+        s.End();
+        sections.push_back(s.Build());
+    }
+    return sections;
+}
+
+// ---- SDT: 40 services over two sections ---------------------------------------
+
+std::vector<Bytes> Sdt(unsigned version)
+{
+    constexpr unsigned kSections = 2;
+    constexpr unsigned kPerSection = kSdtServices / kSections;
+    const std::string provider = "ZUM Broadcast";
+    std::vector<Bytes> sections;
+    for (unsigned section = 0; section < kSections; ++section) {
+        SectionBuilder s(Header(0x42, kTransportStreamId, version, true, section, kSections - 1));
+        s.U16(kOriginalNetworkId).U8(0xFF);
+        for (unsigned i = 0; i < kPerSection; ++i) {
+            const unsigned n = section * kPerSection + i;
+            char name[32];
+            std::snprintf(name, sizeof name, "ZUM Channel %02u", n + 1);
+            const uint8_t type = n % 8 == 7 ? 0x02 : (n % 2 ? 0x16 : 0x19);
+            s.U16(0x0100 + n).U8(0xFC | 0x02 | 0x01); // EIT schedule and present/following
+            s.Begin16(12, 4u << 13);                   // running, free to air
+            s.Descriptor(0x48, Concat({{type}, {static_cast<uint8_t>(provider.size())}, Text(provider),
+                                       {static_cast<uint8_t>(std::string(name).size())}, Text(name)}));
+            s.End();
+        }
+        sections.push_back(s.Build());
+    }
+    return sections;
+}
+
+// ---- EIT -------------------------------------------------------------------
+
+struct EventText {
+    const char* title;
+    const char* text;
+};
+
+const EventText kEventTexts[] = {
+    {"Late News", "Headlines, the regions and the weather for the weekend ahead, with a look at the papers."},
+    {"The Long Coast", "A lighthouse keeper and a stranded sailor wait out a winter storm on a rocky island."},
+    {"Harbour Lives", "A year with the crews of a small fishing port, from the herring season to the gales."},
+    {"World Business Report", "Markets in Asia as they open, the dollar, oil, and the week's company results."},
+    {"Early Breakfast", "News, sport and weather, with the travel news every fifteen minutes from six."},
+};
+
+// Short event, two extended events, video and audio components, content and
+// parental rating: what a present/following event of a DVB-T service carries.
+Bytes RichEventLoop(unsigned index)
+{
+    const EventText& t = kEventTexts[index % 5];
+    const std::string title = t.title;
+    const std::string text = t.text;
+    zumtest::ByteWriter w;
+    w.Descriptor(0x4D, Concat({Text("eng"), {static_cast<uint8_t>(title.size())}, Text(title),
+                               {static_cast<uint8_t>(text.size())}, Text(text)}));
+    for (unsigned number = 0; number < 2; ++number) {
+        const std::string item = number == 0 ? "Director" : "Cast";
+        const std::string value = number == 0 ? "A. Director" : "A. Actor, B. Actor, C. Actor";
+        const std::string more = "Filmed on location over two winters; first shown in 2019. Subtitled.";
+        w.Descriptor(0x4E, Concat({{static_cast<uint8_t>((number << 4) | 1)}, Text("eng"),
+                                   {static_cast<uint8_t>(2 + item.size() + value.size())},
+                                   {static_cast<uint8_t>(item.size())}, Text(item),
+                                   {static_cast<uint8_t>(value.size())}, Text(value),
+                                   {static_cast<uint8_t>(more.size())}, Text(more)}));
+    }
+    w.Descriptor(0x50, Concat({{0xF5, 0x0B, 0x01}, Text("eng"), Text("HD 1080i")})); // H.264 HD 16:9
+    w.Descriptor(0x50, Concat({{0xF6, 0x01, 0x02}, Text("eng"), Text("Stereo")}));   // HE-AAC stereo
+    w.Descriptor(0x54, {0x10, 0x00});
+    w.Descriptor(0x55, Concat({Text("GBR"), {0x0C}}));
+    return w.Data();
+}
+
+// Short event, a video component, content and parental rating: a schedule event.
+Bytes ScheduleEventLoop(unsigned index)
+{
+    const EventText& t = kEventTexts[index % 5];
+    const std::string title = t.title;
+    const std::string text = t.text;
+    zumtest::ByteWriter w;
+    w.Descriptor(0x4D, Concat({Text("eng"), {static_cast<uint8_t>(title.size())}, Text(title),
+                               {static_cast<uint8_t>(text.size())}, Text(text)}));
+    w.Descriptor(0x50, Concat({{0xF5, 0x0B, 0x01}, Text("eng")}));
+    w.Descriptor(0x54, {static_cast<uint8_t>(0x10 + 0x10 * (index % 4)), 0x00});
+    w.Descriptor(0x55, Concat({Text("GBR"), {0x00}}));
+    return w.Data();
+}
+
+Bytes Event(unsigned eventId, unsigned startMinutes, unsigned durationMinutes, unsigned runningStatus,
+            const Bytes& loop)
+{
+    zumtest::ByteWriter w;
+    w.U16(eventId).Raw(StartTime(startMinutes)).Raw(Duration(durationMinutes));
+    w.Begin16(12, runningStatus << 13); // free_CA_mode 0
+    w.Raw(loop);
+    w.End();
+    return w.Data();
+}
+
+Bytes EitSection(unsigned tableId, unsigned version, unsigned section, unsigned lastSection, const Bytes& events)
+{
+    SectionBuilder s(Header(tableId, kEitServiceId, version, true, section, lastSection));
+    s.U16(kTransportStreamId).U16(kOriginalNetworkId).U8(lastSection).U8(tableId).Raw(events);
+    return s.Build();
+}
+
+std::vector<Bytes> EitPresentFollowing(unsigned version)
+{
+    constexpr unsigned kRunning = 4, kNotRunning = 1;
+    return {EitSection(0x4E, version, 0, 1, Event(0x1002, 60, 105, kRunning, RichEventLoop(1))),
+            EitSection(0x4E, version, 1, 1, Event(0x1003, 165, 75, kNotRunning, RichEventLoop(2)))};
+}
+
+// One segment of two sections with ten events each; compressed, the same
+// event loops go through zlib under table id 0x80.
+std::vector<Bytes> EitSchedule(unsigned version, bool compressed)
+{
+    const unsigned tableId = compressed ? 0x80 : 0x50;
+    std::vector<Bytes> sections;
+    for (unsigned section = 0; section < 2; ++section) {
+        Bytes events;
+        for (unsigned i = 0; i < static_cast<unsigned>(kEitScheduleEventsPerSection); ++i) {
+            const unsigned n = section * kEitScheduleEventsPerSection + i;
+            const Bytes e = Event(0x2000 + n, 60 * n, 60, 0, ScheduleEventLoop(n));
+            events.insert(events.end(), e.begin(), e.end());
+        }
+        sections.push_back(EitSection(tableId, version, section, 1, compressed ? Compress(events) : events));
+    }
+    return sections;
+}
+
+Table Make(Family family)
+{
+    Table t;
+    for (int v = 0; v < 2; ++v) {
+        const unsigned version = kVersions[v];
+        switch (family) {
+        case Family::Pat: t.pid = kPidPat; t.tableId = 0x00; t.versions[v] = {Pat(version)}; break;
+        case Family::Pmt: t.pid = kPidPmt; t.tableId = 0x02; t.versions[v] = {Pmt(version)}; break;
+        case Family::Nit: t.pid = kPidNit; t.tableId = 0x40; t.versions[v] = Nit(version); break;
+        case Family::Sdt: t.pid = kPidSdt; t.tableId = 0x42; t.versions[v] = Sdt(version); break;
+        case Family::EitPf: t.pid = kPidEit; t.tableId = 0x4E; t.versions[v] = EitPresentFollowing(version); break;
+        case Family::EitSchedule: t.pid = kPidEit; t.tableId = 0x50; t.versions[v] = EitSchedule(version, false); break;
+        case Family::EitScheduleCompressed:
+            t.pid = kPidEit;
+            t.tableId = 0x80;
+            t.versions[v] = EitSchedule(version, true);
+            break;
+        case Family::DescriptorLoop: t.pid = kPidEit; t.tableId = 0x4E; t.versions[v] = {RichEventLoop(1)}; break;
+        }
+    }
+    return t;
+}
+
+} // namespace
+
+size_t Table::TotalBytes() const
+{
+    size_t total = 0;
+    for (const zumbench::Bytes& s : versions[0])
+        total += s.size();
+    return total;
+}
+
+const std::vector<Family>& AllFamilies()
+{
+    static const std::vector<Family> all = {Family::Pat,         Family::Pmt,
+                                            Family::Nit,         Family::Sdt,
+                                            Family::EitPf,       Family::EitSchedule,
+                                            Family::EitScheduleCompressed, Family::DescriptorLoop};
+    return all;
+}
+
+const char* FamilyName(Family family)
+{
+    switch (family) {
+    case Family::Pat: return "PAT";
+    case Family::Pmt: return "PMT";
+    case Family::Nit: return "NIT";
+    case Family::Sdt: return "SDT";
+    case Family::EitPf: return "EIT-pf";
+    case Family::EitSchedule: return "EIT-sched";
+    case Family::EitScheduleCompressed: return "EIT-sched-zlib";
+    case Family::DescriptorLoop: return "DescLoop";
+    }
+    return "?";
+}
+
+int DecodedByPeers(Family family)
+{
+    switch (family) {
+    case Family::Pat: return kPatPrograms;
+    case Family::Pmt: return kPmtDescriptors - 3;          // CA twice and AC-3 stay raw
+    case Family::Nit: return 2 + 4 * kNitTransportStreams; // network names; 0x5A, 0x41, 0x5F, 0x83 each
+    case Family::Sdt: return kSdtServices;
+    case Family::EitPf: return 2 * kDescriptorLoopDescriptors;
+    case Family::EitSchedule: return 2 * kEitScheduleEventsPerSection * 4;
+    case Family::EitScheduleCompressed: return -1;
+    case Family::DescriptorLoop: return kDescriptorLoopDescriptors;
+    }
+    return -1;
+}
+
+const Table& TableOf(Family family)
+{
+    static std::map<Family, Table> tables;
+    auto it = tables.find(family);
+    if (it == tables.end())
+        it = tables.emplace(family, Make(family)).first;
+    return it->second;
+}
+
+} // namespace zumbench

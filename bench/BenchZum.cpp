@@ -1,0 +1,219 @@
+// The library's own benchmarks: each pass hands the sections of one table
+// version to a parser that holds the other version, as a receiver meets a
+// version change; the parser drops the old table and decodes the new one.
+
+#include <cstring>
+
+#include <zum-parser/core/Descriptor.h>
+#include <zum-parser/core/DescriptorHash.h>
+#include <zum-parser/dvb/DVBEITParser.h>
+#include <zum-parser/dvb/DVBNITParser.h>
+#include <zum-parser/dvb/DVBSDTParser.h>
+#include <zum-parser/psi/PATParser.h>
+#include <zum-parser/psi/PMTParser.h>
+
+#include "BenchCommon.h"
+
+namespace zumbench {
+
+namespace {
+
+const ZUMHandle kHandle(1, 0, 0);
+
+// Feeds the sections of pass n; true when the last one completed the table.
+template <class Parser>
+bool Feed(Parser& parser, const Table& table, uint64_t n)
+{
+    bool complete = false;
+    for (const Bytes& section : table.Pass(n))
+        complete = parser.Parse(static_cast<short>(table.pid), section.data());
+    return complete;
+}
+
+// Two passes, one per version, must each complete the table before timing.
+template <class Parser>
+bool Prime(Parser& parser, const Table& table)
+{
+    return Feed(parser, table, 0) && Feed(parser, table, 1);
+}
+
+void Pat(benchmark::State& state)
+{
+    const Table& table = TableOf(Family::Pat);
+    TCPATParser parser(kHandle);
+    parser.Initialize();
+    if (!Prime(parser, table) || parser.NumOfProgramList() != kPatPrograms)
+        return state.SkipWithError("PAT not decoded");
+    // Per pass: header, version change, 16 program entries.
+    RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
+}
+
+int PmtDescriptors(const TCPMTInstance& pmt)
+{
+    int count = pmt.NumOfDescriptors();
+    for (int i = 0; i < pmt.NumOfElementary(); ++i)
+        count += pmt.PMTElementary(static_cast<unsigned>(i))->NumOfDescriptors();
+    return count;
+}
+
+void Pmt(benchmark::State& state)
+{
+    const Table& table = TableOf(Family::Pmt);
+    TCPMTParser parser(kHandle);
+    parser.Initialize();
+    if (!Prime(parser, table))
+        return state.SkipWithError("PMT not decoded");
+    const TCPMTInstance* pmt = parser.PMTInstance(kProgramNumber);
+    if (!pmt || pmt->NumOfElementary() != kPmtStreams || PmtDescriptors(*pmt) != kPmtDescriptors)
+        return state.SkipWithError("PMT incomplete");
+    // Per pass: five streams and twelve descriptor objects, each loop through
+    // its own TCDescriptor, and the channel list check.
+    RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
+}
+
+void Nit(benchmark::State& state)
+{
+    const Table& table = TableOf(Family::Nit);
+    TCDVBNITParser parser(0x40, kHandle);
+    parser.Initialize();
+    if (!Prime(parser, table) || parser.NumOfDVBItemMux(kNetworkId) != kNitTransportStreams)
+        return state.SkipWithError("NIT not decoded");
+    const TCDVBItemMux* mux = parser.DVBItemMuxOfIndex(0, kNetworkId);
+    if (!mux || mux->NumOfDescriptors(0x5A) != 1 || mux->NumOfDescriptors(0x41) != 1 ||
+        mux->NumOfDescriptors(0x83) != 1)
+        return state.SkipWithError("NIT transport stream descriptors missing");
+    // Per pass: two sections, 20 transport streams with delivery, service
+    // list and (under the specifier) logical channel descriptors.
+    RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
+}
+
+void Sdt(benchmark::State& state)
+{
+    const Table& table = TableOf(Family::Sdt);
+    TCDVBSDTParser parser(0x42, kHandle);
+    parser.Initialize();
+    if (!Prime(parser, table))
+        return state.SkipWithError("SDT not decoded");
+    const TCDVBSDTInstance* sdt = parser.DVBSDTFirstInstance();
+    if (!sdt || sdt->NumOfDVBSDTItemService() != kSdtServices ||
+        sdt->DVBSDTItemServiceOfIndex(0)->NumOfDescriptors(0x48) != 1)
+        return state.SkipWithError("SDT incomplete");
+    // Per pass: two sections, 40 services with a service descriptor each.
+    RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
+}
+
+// The EIT road of a receiver: the parser says which section is new, the
+// caller's item decodes its events; with `decodeLoops` each event's raw
+// descriptor loop then goes through a TCDescriptor, as the guide does when it
+// reads an event.
+class EitReader {
+public:
+    EitReader(unsigned tableId, bool decodeLoops)
+        : m_parser(static_cast<int>(tableId), kHandle),
+          m_item(kOriginalNetworkId, kTransportStreamId, kEitServiceId, kHandle),
+          m_decodeLoops(decodeLoops)
+    {
+        m_parser.Initialize();
+    }
+
+    // Answers the events decoded in pass n.
+    int Pass(const Table& table, uint64_t n)
+    {
+        int events = 0;
+        for (const Bytes& s : table.Pass(n)) {
+            if (!m_parser.Parse(static_cast<short>(table.pid), s.data()))
+                continue;
+            if (!m_item.Parse(s.data(), static_cast<int>(s.size()), (s[5] >> 1) & 0x1F, s[6], s[7], s[0]))
+                continue;
+            events += m_item.NumOfDVBEITItemEvent();
+            if (m_decodeLoops)
+                m_DecodeLoops(static_cast<unsigned char>(s[0]));
+        }
+        return events;
+    }
+
+    int LastDescriptorCount() const { return m_lastDescriptors; }
+
+private:
+    void m_DecodeLoops(unsigned char tableId)
+    {
+        for (int i = 0; i < m_item.NumOfDVBEITItemEvent(); ++i) {
+            const TCDVBEITItemEvent* event = m_item.DVBEITItemEvent(static_cast<unsigned>(i));
+            TCDescriptorHash hash;
+            TCDescriptor loop(kHandle);
+            loop.Parse(event->Descriptors(), event->DescriptorsLength(), hash, tableId);
+            m_lastDescriptors = hash.NumOfDescriptors();
+        }
+    }
+
+    TCDVBEITParser m_parser;
+    TCDVBEITItem m_item;
+    bool m_decodeLoops;
+    int m_lastDescriptors = 0;
+};
+
+void Eit(benchmark::State& state, Family family, bool decodeLoops)
+{
+    const Table& table = TableOf(family);
+    EitReader reader(table.tableId, decodeLoops);
+    const int events = family == Family::EitPf ? 2 : 2 * kEitScheduleEventsPerSection;
+    if (reader.Pass(table, 0) != events || reader.Pass(table, 1) != events ||
+        (decodeLoops && reader.LastDescriptorCount() < 4))
+        return state.SkipWithError("EIT not decoded");
+    // Per pass: every section is new to the parser's tracker; the item
+    // replaces its events (inflating the loop first for table id 0x80).
+    RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(reader.Pass(table, n)); });
+}
+
+void DescriptorLoop(benchmark::State& state)
+{
+    const Table& table = TableOf(Family::DescriptorLoop);
+    const Bytes& loopBytes = table.versions[0].front();
+    auto decode = [&]() {
+        TCDescriptorHash hash;
+        TCDescriptor loop(kHandle);
+        loop.Parse(loopBytes.data(), static_cast<int>(loopBytes.size()), hash, static_cast<unsigned char>(table.tableId));
+        return hash.NumOfDescriptors();
+    };
+    if (decode() != kDescriptorLoopDescriptors)
+        return state.SkipWithError("descriptor loop not decoded");
+    // Per pass: one TCDescriptor with its factory, seven descriptor objects
+    // with raw copies and decoded fields, the hash, and their destruction.
+    RunPasses(state, table, [&](uint64_t) { benchmark::DoNotOptimize(decode()); });
+}
+
+} // namespace
+
+void RegisterZum(Family family)
+{
+    switch (family) {
+    case Family::Pat: Register(family, kZum, Pat); break;
+    case Family::Pmt: Register(family, kZum, Pmt); break;
+    case Family::Nit: Register(family, kZum, Nit); break;
+    case Family::Sdt: Register(family, kZum, Sdt); break;
+    case Family::EitPf:
+    case Family::EitSchedule:
+    case Family::EitScheduleCompressed:
+        Register(family, kZum, [family](benchmark::State& state) { Eit(state, family, true); });
+        Register(family, kZumRaw, [family](benchmark::State& state) { Eit(state, family, false); });
+        break;
+    case Family::DescriptorLoop: Register(family, kZum, DescriptorLoop); break;
+    }
+}
+
+// The floor: copying each section's bytes once, the least any decoder does.
+void RegisterFloor(Family family)
+{
+    Register(family, kFloor, [family](benchmark::State& state) {
+        const Table& table = TableOf(family);
+        static unsigned char buffer[4096];
+        RunPasses(state, table, [&](uint64_t n) {
+            for (const Bytes& s : table.Pass(n)) {
+                std::memcpy(buffer, s.data(), s.size());
+                benchmark::ClobberMemory();
+            }
+        });
+    });
+}
+
+} // namespace zumbench
