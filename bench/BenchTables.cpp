@@ -1,9 +1,6 @@
 #include "BenchTables.h"
 
-#include <zlib.h>
-
 #include <cstdio>
-#include <cstdlib>
 #include <map>
 
 namespace zumbench {
@@ -13,7 +10,6 @@ namespace {
 using zumtest::Concat;
 using zumtest::Desc;
 using zumtest::SectionBuilder;
-using zumtest::SectionHeader;
 
 constexpr unsigned kVersions[2] = {4, 5};
 
@@ -56,36 +52,11 @@ Bytes Duration(unsigned minutes)
     return {static_cast<uint8_t>(Bcd(minutes / 60)), static_cast<uint8_t>(Bcd(minutes % 60)), 0x00};
 }
 
-SectionHeader Header(unsigned tableId, unsigned extension, unsigned version, bool dvbSi, unsigned section = 0,
-                     unsigned lastSection = 0)
-{
-    SectionHeader header;
-    header.tableId = tableId;
-    header.privateBit = dvbSi; // reserved_future_use is '1' in DVB SI, '0' in PSI
-    header.extension = extension;
-    header.version = version;
-    header.sectionNumber = section;
-    header.lastSectionNumber = lastSection;
-    return header;
-}
-
-Bytes Compress(const Bytes& data)
-{
-    uLongf size = compressBound(static_cast<uLong>(data.size()));
-    Bytes out(size);
-    if (compress(out.data(), &size, data.data(), static_cast<uLong>(data.size())) != Z_OK) {
-        std::fprintf(stderr, "zlib compress failed\n");
-        std::exit(1);
-    }
-    out.resize(size);
-    return out;
-}
-
 // ---- PAT: the network PID and 16 programs -----------------------------------
 
 Bytes Pat(unsigned version)
 {
-    SectionBuilder s(Header(0x00, kTransportStreamId, version, false));
+    SectionBuilder s(zumtest::LongHeader(0x00, kTransportStreamId, version));
     s.U16(0x0000).U16(0xE000 | kPidNit);
     for (unsigned i = 0; i < static_cast<unsigned>(kPatPrograms); ++i)
         s.U16(kProgramNumber + i).U16(0xE000 | (kPidPmt + 0x10 * i));
@@ -96,7 +67,7 @@ Bytes Pat(unsigned version)
 
 Bytes Pmt(unsigned version)
 {
-    SectionBuilder s(Header(0x02, kProgramNumber, version, false));
+    SectionBuilder s(zumtest::LongHeader(0x02, kProgramNumber, version));
     s.U16(0xE000 | 0x0110); // PCR on the video
     s.Begin16();
     s.Descriptor(0x09, Concat({U16(0x0B00), U16(0xE000 | 0x01F0)})); // CA system and ECM PID
@@ -159,7 +130,7 @@ std::vector<Bytes> Nit(unsigned version)
     constexpr unsigned kPerSection = kNitTransportStreams / kSections;
     std::vector<Bytes> sections;
     for (unsigned section = 0; section < kSections; ++section) {
-        SectionBuilder s(Header(0x40, kNetworkId, version, true, section, kSections - 1));
+        SectionBuilder s(zumtest::LongHeader(0x40, kNetworkId, version, section, kSections - 1, true));
         s.Begin16().Descriptor(0x40, Text("ZUM Benchmark Network")).End();
         s.Begin16();
         for (unsigned i = 0; i < kPerSection; ++i)
@@ -179,7 +150,7 @@ std::vector<Bytes> Sdt(unsigned version)
     const std::string provider = "ZUM Broadcast";
     std::vector<Bytes> sections;
     for (unsigned section = 0; section < kSections; ++section) {
-        SectionBuilder s(Header(0x42, kTransportStreamId, version, true, section, kSections - 1));
+        SectionBuilder s(zumtest::LongHeader(0x42, kTransportStreamId, version, section, kSections - 1, true));
         s.U16(kOriginalNetworkId).U8(0xFF);
         for (unsigned i = 0; i < kPerSection; ++i) {
             const unsigned n = section * kPerSection + i;
@@ -212,16 +183,20 @@ const EventText kEventTexts[] = {
     {"Early Breakfast", "News, sport and weather, with the travel news every fifteen minutes from six."},
 };
 
+Bytes ShortEvent(unsigned index)
+{
+    const std::string title = kEventTexts[index % 5].title;
+    const std::string text = kEventTexts[index % 5].text;
+    return Desc(0x4D, Concat({Text("eng"), {static_cast<uint8_t>(title.size())}, Text(title),
+                              {static_cast<uint8_t>(text.size())}, Text(text)}));
+}
+
 // Short event, two extended events, video and audio components, content and
 // parental rating: what a present/following event of a DVB-T service carries.
 Bytes RichEventLoop(unsigned index)
 {
-    const EventText& t = kEventTexts[index % 5];
-    const std::string title = t.title;
-    const std::string text = t.text;
     zumtest::ByteWriter w;
-    w.Descriptor(0x4D, Concat({Text("eng"), {static_cast<uint8_t>(title.size())}, Text(title),
-                               {static_cast<uint8_t>(text.size())}, Text(text)}));
+    w.Raw(ShortEvent(index));
     for (unsigned number = 0; number < 2; ++number) {
         const std::string item = number == 0 ? "Director" : "Cast";
         const std::string value = number == 0 ? "A. Director" : "A. Actor, B. Actor, C. Actor";
@@ -242,12 +217,8 @@ Bytes RichEventLoop(unsigned index)
 // Short event, a video component, content and parental rating: a schedule event.
 Bytes ScheduleEventLoop(unsigned index)
 {
-    const EventText& t = kEventTexts[index % 5];
-    const std::string title = t.title;
-    const std::string text = t.text;
     zumtest::ByteWriter w;
-    w.Descriptor(0x4D, Concat({Text("eng"), {static_cast<uint8_t>(title.size())}, Text(title),
-                               {static_cast<uint8_t>(text.size())}, Text(text)}));
+    w.Raw(ShortEvent(index));
     w.Descriptor(0x50, Concat({{0xF5, 0x0B, 0x01}, Text("eng")}));
     w.Descriptor(0x54, {static_cast<uint8_t>(0x10 + 0x10 * (index % 4)), 0x00});
     w.Descriptor(0x55, Concat({Text("GBR"), {0x00}}));
@@ -267,7 +238,7 @@ Bytes Event(unsigned eventId, unsigned startMinutes, unsigned durationMinutes, u
 
 Bytes EitSection(unsigned tableId, unsigned version, unsigned section, unsigned lastSection, const Bytes& events)
 {
-    SectionBuilder s(Header(tableId, kEitServiceId, version, true, section, lastSection));
+    SectionBuilder s(zumtest::LongHeader(tableId, kEitServiceId, version, section, lastSection, true));
     s.U16(kTransportStreamId).U16(kOriginalNetworkId).U8(lastSection).U8(tableId).Raw(events);
     return s.Build();
 }
@@ -292,7 +263,7 @@ std::vector<Bytes> EitSchedule(unsigned version, bool compressed)
             const Bytes e = Event(0x2000 + n, 60 * n, 60, 0, ScheduleEventLoop(n));
             events.insert(events.end(), e.begin(), e.end());
         }
-        sections.push_back(EitSection(tableId, version, section, 1, compressed ? Compress(events) : events));
+        sections.push_back(EitSection(tableId, version, section, 1, compressed ? zumtest::Deflate(events) : events));
     }
     return sections;
 }

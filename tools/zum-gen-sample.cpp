@@ -3,11 +3,8 @@
 // of a small fictional DVB-T network, from the values named below.
 // Usage: zum-gen-sample OUTPUT   ("-" for standard output)
 
-#include <zlib.h>
-
 #include <cstdint>
 #include <cstdio>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -235,16 +232,6 @@ Bytes Text(const std::string& text)
     return Bytes(text.begin(), text.end());
 }
 
-SectionHeader LongHeader(unsigned tableId, unsigned extension, unsigned version, bool dvbSi)
-{
-    SectionHeader header;
-    header.tableId = tableId;
-    header.privateBit = dvbSi; // reserved_future_use is '1' in DVB SI, '0' in PSI
-    header.extension = extension;
-    header.version = version;
-    return header;
-}
-
 SectionHeader ShortHeader(unsigned tableId)
 {
     SectionHeader header;
@@ -258,7 +245,7 @@ SectionHeader ShortHeader(unsigned tableId)
 
 Bytes Pat()
 {
-    SectionBuilder s(LongHeader(kTidPat, kTsActual, kPatVersion, false));
+    SectionBuilder s(zumtest::LongHeader(kTidPat, kTsActual, kPatVersion));
     s.U16(0x0000).U16(0xE000 | kPidNit);
     for (const Service& service : kServices)
         s.U16(service.id).U16(0xE000 | service.pmtPid);
@@ -267,7 +254,7 @@ Bytes Pat()
 
 Bytes Pmt(const Service& service)
 {
-    SectionBuilder s(LongHeader(kTidPmt, service.id, kPmtVersion, false));
+    SectionBuilder s(zumtest::LongHeader(kTidPmt, service.id, kPmtVersion));
     s.U16(0xE000 | service.streams.front().pid); // PCR rides on the video
     s.Begin16().End();                          // no program descriptors
     for (const Stream& stream : service.streams) {
@@ -314,7 +301,7 @@ void TransportStream(SectionBuilder& s, unsigned tsId, uint32_t frequency, const
 
 Bytes Nit()
 {
-    SectionBuilder s(LongHeader(kTidNitActual, kNetworkId, kNitVersion, true));
+    SectionBuilder s(zumtest::LongHeader(kTidNitActual, kNetworkId, kNitVersion, 0, 0, true));
     s.Begin16().Descriptor(0x40, Text(kNetworkName)).End();
     s.Begin16();
     TransportStream(s, kTsActual, kFrequencyActual, kServices);
@@ -325,7 +312,7 @@ Bytes Nit()
 
 Bytes Sdt()
 {
-    SectionBuilder s(LongHeader(kTidSdtActual, kTsActual, kSdtVersion, true));
+    SectionBuilder s(zumtest::LongHeader(kTidSdtActual, kTsActual, kSdtVersion, 0, 0, true));
     s.U16(kOriginalNetworkId).U8(0xFF);
     for (const Service& service : kServices) {
         s.U16(service.id).U8(0xFC | (service.schedule ? 0x02 : 0x00) | 0x01); // present/following always
@@ -357,7 +344,7 @@ Bytes EventLoop(const std::vector<Event>& events, unsigned runningStatus)
 Bytes EitSection(unsigned tableId, unsigned serviceId, unsigned version, unsigned section, unsigned lastSection,
                  unsigned segmentLastSection, unsigned lastTableId, const Bytes& events)
 {
-    SectionHeader header = LongHeader(tableId, serviceId, version, true);
+    SectionHeader header = zumtest::LongHeader(tableId, serviceId, version, 0, 0, true);
     header.sectionNumber = section;
     header.lastSectionNumber = lastSection;
     SectionBuilder s(header);
@@ -377,18 +364,6 @@ std::vector<Bytes> EitPresentFollowing()
     return sections;
 }
 
-Bytes Compress(const Bytes& data)
-{
-    uLongf size = compressBound(static_cast<uLong>(data.size()));
-    Bytes out(size);
-    if (compress(out.data(), &size, data.data(), static_cast<uLong>(data.size())) != Z_OK) {
-        std::fprintf(stderr, "zlib compress failed\n");
-        std::exit(1);
-    }
-    out.resize(size);
-    return out;
-}
-
 // The schedule of the service that has one, as plain sections or with its
 // event loops compressed.
 std::vector<Bytes> EitSchedule(bool compressed)
@@ -400,7 +375,7 @@ std::vector<Bytes> EitSchedule(bool compressed)
                                 std::make_pair(kSegment1Section, &kScheduleSegment1)}) {
         const Bytes events = EventLoop(*segment.second, kUndefined);
         sections.push_back(EitSection(tableId, serviceId, kEitScheduleVersion, segment.first, kSegment1Section,
-                                      segment.first, tableId, compressed ? Compress(events) : events));
+                                      segment.first, tableId, compressed ? zumtest::Deflate(events) : events));
     }
     return sections;
 }

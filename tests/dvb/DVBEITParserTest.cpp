@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <zlib.h>
-
 #include <ctime>
 #include <memory>
 #include <regex>
@@ -68,15 +66,6 @@ Bytes Eit(const EitFields& s, const Bytes& loop = {})
     zumtest::SectionBuilder b({s.tableId, true, false, 3, s.serviceId, s.version, true, s.section, s.last});
     b.U16(0x0441).U16(s.onid).U8(s.segmentLast).U8(s.lastTableId).Raw(loop);
     return b.Build();
-}
-
-Bytes Compressed(const Bytes& plain)
-{
-    uLongf size = compressBound(plain.size());
-    Bytes out(size);
-    EXPECT_EQ(compress(out.data(), &size, plain.data(), plain.size()), Z_OK);
-    out.resize(size);
-    return out;
 }
 
 // What a caller does: header fields from the section, then the item.
@@ -313,7 +302,7 @@ TEST(DVBEITItem, CompressedLoopsUpTo4096Bytes)
     std::vector<EventFields> big(16);
     for (unsigned i = 0; i < big.size(); ++i)
         big[i] = {0x100 + i, Start(60369, 0, 0, 0), {0, 0, 0}, 0, 0, Desc(0x4E, Bytes(242, static_cast<uint8_t>(i)))};
-    const Bytes all = Events(big), fifteen(all.begin(), all.end() - 256), good = Compressed(Events({{}, {}, {}}));
+    const Bytes all = Events(big), fifteen(all.begin(), all.end() - 256), good = zumtest::Deflate(Events({{}, {}, {}}));
     const Bytes two = Events({{0x0A01, Start(60369, 0, 0, 0), {0, 1, 0}, 2, 0, kShortEventLoop}, {0x0A02}});
     Bytes corrupt = good;
     corrupt[0] = 0x00;
@@ -324,13 +313,13 @@ TEST(DVBEITItem, CompressedLoopsUpTo4096Bytes)
         unsigned events, lastId;
         const char* line; // the one DEBUG line, as a regular expression
     } cases[] = {
-        {"0x80", 0x80, Compressed(two), 2, 0x0A02, nullptr},
-        {"0x9F", 0x9F, Compressed(two), 2, 0x0A02, nullptr},
+        {"0x80", 0x80, zumtest::Deflate(two), 2, 0x0A02, nullptr},
+        {"0x9F", 0x9F, zumtest::Deflate(two), 2, 0x0A02, nullptr},
         {"0x7F is plain", 0x7F, two, 2, 0x0A02, nullptr},
         {"0xA0 is plain", 0xA0, two, 2, 0x0A02, nullptr},
-        {"exactly 4096", 0x81, Compressed(all), 16, 0x10F, nullptr},
-        {"ends inside an event header", 0x81, Compressed(Concat({fifteen, Bytes(11, 0)})), 15, 0x10E, nullptr},
-        {"one byte over 4096", 0x81, Compressed(Concat({all, {0}})), 0, 0,
+        {"exactly 4096", 0x81, zumtest::Deflate(all), 16, 0x10F, nullptr},
+        {"ends inside an event header", 0x81, zumtest::Deflate(Concat({fifteen, Bytes(11, 0)})), 15, 0x10E, nullptr},
+        {"one byte over 4096", 0x81, zumtest::Deflate(Concat({all, {0}})), 0, 0,
          R"(\[TCDVBEITItem Error\] Z_BUF_ERROR ExtractCompressed line:\d+ rc=-5 bufferSize=4096)"},
         {"corrupt header", 0x80, corrupt, 0, 0,
          R"(\[TCDVBEITItem Error\] ExtractCompressed line:\d+ rc=-3 bufferSize=0)"},

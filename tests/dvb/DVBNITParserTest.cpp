@@ -13,7 +13,6 @@ using zumtest::Bytes;
 using zumtest::Concat;
 using zumtest::Desc;
 using zumtest::SectionBuilder;
-using zumtest::SectionHeader;
 
 namespace {
 
@@ -70,13 +69,7 @@ struct Mux {
 Bytes Nit(unsigned tableId, unsigned networkId, unsigned version, unsigned section, unsigned last,
           const Bytes& networkDescriptors, const std::vector<Mux>& muxes)
 {
-    SectionHeader h;
-    h.tableId = tableId;
-    h.extension = networkId;
-    h.version = version;
-    h.sectionNumber = section;
-    h.lastSectionNumber = last;
-    SectionBuilder b(h);
+    SectionBuilder b(zumtest::LongHeader(tableId, networkId, version, section, last));
     b.Begin16(12).Raw(networkDescriptors).End();
     b.Begin16(12);
     for (const Mux& m : muxes)
@@ -219,10 +212,7 @@ TEST(DVBNITParser, SelectionByTableId)
 TEST(DVBNITParser, LoopsLongerThanTheSectionAreBounded)
 {
     zumtest::BinderScope binder;
-    SectionHeader h;
-    h.tableId = 0x40;
-    h.extension = 5;
-    SectionBuilder b(h);
+    SectionBuilder b(zumtest::LongHeader(0x40, 5));
     // Network loop claims 300 bytes; one mux follows whose loop claims 500.
     b.U16(0xF000 | 300).Raw(NetworkName("N")).U16(0xF000 | 20).U16(0x44).U16(0x55).U16(0xF000 | 500).Raw(
         ServiceList({{1, 1}}));

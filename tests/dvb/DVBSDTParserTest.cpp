@@ -10,7 +10,6 @@
 using zumtest::Bytes;
 using zumtest::Desc;
 using zumtest::SectionBuilder;
-using zumtest::SectionHeader;
 
 namespace {
 
@@ -35,13 +34,7 @@ Bytes ServiceDesc(unsigned type, const std::string& provider, const std::string&
 Bytes Sdt(unsigned tableId, unsigned onid, unsigned tsid, unsigned version, unsigned section, unsigned last,
           const std::vector<Service>& services)
 {
-    SectionHeader h;
-    h.tableId = tableId;
-    h.extension = tsid;
-    h.version = version;
-    h.sectionNumber = section;
-    h.lastSectionNumber = last;
-    SectionBuilder b(h);
+    SectionBuilder b(zumtest::LongHeader(tableId, tsid, version, section, last));
     b.U16(onid).U8(0xFF);
     for (const Service& s : services) {
         b.U16(s.id).U8(0xFC | (s.schedule ? 2 : 0) | (s.presentFollowing ? 1 : 0));
@@ -184,10 +177,7 @@ TEST(DVBSDTParser, OtherTableKeepsInstancesApart)
 TEST(DVBSDTParser, LoopLongerThanTheSectionIsReadToItsEnd)
 {
     zumtest::BinderScope binder;
-    SectionHeader h;
-    h.tableId = 0x42;
-    h.extension = 1;
-    SectionBuilder b(h);
+    SectionBuilder b(zumtest::LongHeader(0x42, 1));
     // One service whose descriptor loop claims 200 bytes; 7 follow.
     b.U16(1).U8(0xFF).U16(5).U8(0xFD).U16(0x8000 | 200).Raw(ServiceDesc(1, "", "TV"));
     const Bytes s = b.Build();

@@ -17,12 +17,7 @@ using Programs = std::vector<std::pair<unsigned, unsigned>>; // number, PID
 
 Bytes Pat(unsigned tsid, unsigned version, unsigned section, unsigned last, const Programs& programs)
 {
-    zumtest::SectionHeader h;
-    h.extension = tsid;
-    h.version = version;
-    h.sectionNumber = section;
-    h.lastSectionNumber = last;
-    zumtest::SectionBuilder b(h);
+    zumtest::SectionBuilder b(zumtest::LongHeader(0x00, tsid, version, section, last));
     for (const auto& p : programs)
         b.U16(p.first).U16(0xE000 | p.second);
     return b.Build();

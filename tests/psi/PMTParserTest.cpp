@@ -25,13 +25,7 @@ using Pairs = std::vector<std::pair<int, int>>; // stream type, PID
 
 Bytes Pmt(const Program& p)
 {
-    zumtest::SectionHeader h;
-    h.tableId = 0x02;
-    h.extension = p.number;
-    h.version = p.version;
-    h.sectionNumber = p.section;
-    h.lastSectionNumber = p.last;
-    zumtest::SectionBuilder b(h);
+    zumtest::SectionBuilder b(zumtest::LongHeader(0x02, p.number, p.version, p.section, p.last));
     b.U16(0xE000 | p.pcr).Begin16(12).Raw(p.descriptors).End();
     for (const Stream& s : p.streams)
         b.U8(s.type).U16(0xE000 | s.pid).Begin16(12).Raw(s.descriptors).End();
@@ -156,10 +150,7 @@ TEST(PMTParser, InnerLengthsAgainstTheSection)
 {
     zumtest::BinderScope binder;
     auto build = [](const std::function<void(zumtest::SectionBuilder&)>& body) {
-        zumtest::SectionHeader h;
-        h.tableId = 0x02;
-        h.extension = 1;
-        zumtest::SectionBuilder b(h);
+        zumtest::SectionBuilder b(zumtest::LongHeader(0x02, 1));
         body(b);
         return b.Build();
     };

@@ -1,5 +1,7 @@
 #include "SectionBuilder.h"
 
+#include <zlib.h>
+
 #include <stdexcept>
 
 #include "Crc32.h"
@@ -134,6 +136,29 @@ Bytes Concat(std::initializer_list<Bytes> parts)
     Bytes out;
     for (const Bytes& p : parts)
         out.insert(out.end(), p.begin(), p.end());
+    return out;
+}
+
+SectionHeader LongHeader(unsigned tableId, unsigned extension, unsigned version, unsigned section, unsigned last,
+                         bool privateBit)
+{
+    SectionHeader header;
+    header.tableId = tableId;
+    header.privateBit = privateBit;
+    header.extension = extension;
+    header.version = version;
+    header.sectionNumber = section;
+    header.lastSectionNumber = last;
+    return header;
+}
+
+Bytes Deflate(const Bytes& plain)
+{
+    uLongf size = compressBound(static_cast<uLong>(plain.size()));
+    Bytes out(size);
+    if (compress(out.data(), &size, plain.data(), static_cast<uLong>(plain.size())) != Z_OK)
+        return {};
+    out.resize(size);
     return out;
 }
 

@@ -52,7 +52,7 @@ private:
 struct SectionHeader {
     unsigned tableId = 0x00;
     bool syntax = true;     // long form with section numbers and CRC_32
-    bool privateBit = false;
+    bool privateBit = false; // reserved_future_use: '1' in DVB SI tables
     unsigned reserved = 3;  // the two bits between private_indicator and section_length
     unsigned extension = 0; // table_id_extension
     unsigned version = 0;
@@ -61,6 +61,10 @@ struct SectionHeader {
     unsigned lastSectionNumber = 0;
     int protocolVersion = -1; // >= 0 writes the PSIP protocol_version byte
 };
+
+// The long-form header of a table: the fields that vary between sections.
+SectionHeader LongHeader(unsigned tableId, unsigned extension, unsigned version = 0, unsigned section = 0,
+                         unsigned last = 0, bool privateBit = false);
 
 class SectionBuilder : public ByteWriter {
 public:
@@ -77,6 +81,8 @@ private:
 // A descriptor as bytes: tag, length, body.
 Bytes Desc(unsigned tag, const Bytes& body);
 Bytes Concat(std::initializer_list<Bytes> parts);
+// zlib's deflate of `plain`, as compressed event loops carry it; empty if zlib fails.
+Bytes Deflate(const Bytes& plain);
 
 } // namespace zumtest
 

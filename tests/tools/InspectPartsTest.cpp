@@ -88,10 +88,7 @@ namespace {
 
 Bytes Pat(unsigned networkPid, unsigned programNumber, unsigned pmtPid)
 {
-    zumtest::SectionHeader h;
-    h.tableId = 0x00;
-    h.extension = 1;
-    zumtest::SectionBuilder s(h);
+    zumtest::SectionBuilder s(zumtest::LongHeader(0x00, 1));
     s.U16(0).U16(0xE000 | networkPid).U16(programNumber).U16(0xE000 | pmtPid);
     return s.Build();
 }
@@ -139,14 +136,7 @@ namespace {
 // An EIT p/f section of service 1 with one event per entry of `eventIds`.
 Bytes Eit(unsigned version, unsigned section, const std::vector<unsigned>& eventIds)
 {
-    zumtest::SectionHeader h;
-    h.tableId = 0x4E;
-    h.privateBit = true;
-    h.extension = 1;
-    h.version = version;
-    h.sectionNumber = section;
-    h.lastSectionNumber = 1;
-    zumtest::SectionBuilder s(h);
+    zumtest::SectionBuilder s(zumtest::LongHeader(0x4E, 1, version, section, 1, true));
     s.U16(2).U16(3).U8(1).U8(0x4E);
     for (unsigned id : eventIds)
         s.U16(id).Raw({0xE4, 0x77, 0x01, 0x20, 0x00}).Raw({0x01, 0x00, 0x00}).Begin16(12, 4u << 13).End();
