@@ -58,4 +58,15 @@ private:
     bool m_short = false;
 };
 
+// How many records a loop of `size` bytes holds, each a `head`-byte head with
+// a 12-bit length of what follows it at `lengthAt`: a capacity to reserve, so
+// that a table's record list takes one block instead of growing.
+inline int CountRecords(const unsigned char* data, int size, int head, int lengthAt)
+{
+    int count = 0;
+    for (int at = 0; at + lengthAt + 2 <= size; ++count)
+        at += head + (((data[at + lengthAt] & 0x0F) << 8) | data[at + lengthAt + 1]);
+    return count;
+}
+
 #endif

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "../core/ByteReader.h"
 #include "../core/Descriptor.h"
 #include "../operators/DescLogicalChannel.h"
 #include "../operators/DescLogicalChannelV2.h"
@@ -147,6 +148,8 @@ void TCDVBNITInstance::m_Parse(const unsigned char* body, int length, int sectio
     // A section parsed again (after RemoveSection) replaces its muxes.
     std::vector<std::unique_ptr<TCDVBItemMux>>& muxes = m_muxesBySection[static_cast<unsigned char>(section)];
     muxes.clear();
+    if (networkLength + 4 < end)
+        muxes.reserve(CountRecords(body + networkLength + 4, end - networkLength - 4, kMuxHeaderSize, 4));
     for (int position = networkLength + 4; position < end;) {
         muxes.emplace_back(new TCDVBItemMux(m_tableId, m_handle));
         position += muxes.back()->Parse(body + position, end - position);

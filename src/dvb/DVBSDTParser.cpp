@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "../core/ByteReader.h"
 #include "../core/Descriptor.h"
 
 namespace {
@@ -75,6 +76,7 @@ void TCDVBSDTInstance::t_Parse(const unsigned char* body, int length)
     std::vector<std::unique_ptr<TCDVBSDTItemService>>& services = m_servicesBySection[m_sectionNumber];
     services.clear();
     if (limit >= 4) {
+        services.reserve(CountRecords(body + 3, loopEnd - 3, 5, 3));
         int position = 3;
         while (position < limit) {
             services.emplace_back(new TCDVBSDTItemService(m_handle));
