@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -71,10 +72,13 @@ int ParseLoop(Loop& loop, const Bytes& bytes, TCDescriptorHash& hash, unsigned c
 } // namespace
 
 // The broadcast system follows the receiver's country: seen through which
-// table scopes have a factory at all, and whether private tags are put to
-// the binder (only DVB tracks specifiers).
+// table scopes have a factory, and whether private tags are put to the
+// binder (only DVB tracks specifiers).
 TEST(Descriptor, CountrySwitch)
 {
+    // Which of the table ids 0xC7, 0xC4, 0x4A, 0x40, 0x02, 0x01, 0x52 the system decodes.
+    const std::map<std::string, std::string> scopes = {
+        {"ATSC", "1000100"}, {"JPN", "0101110"}, {"ISDB", "0001110"}, {"DVB", "0011110"}};
     struct Case { const char* country; unsigned int op; const char* system; } cases[] = {
         {"KOR", 0, "ATSC"},  {"USA", 0, "ATSC"}, {"JPN", 0, "JPN"},  {"ARG", 0, "ISDB"}, {"BOL", 0, "ISDB"},
         {"BRA", 0, "ISDB"},  {"CHL", 0, "ISDB"}, {"EQU", 0, "ISDB"}, {"PAR", 0, "ISDB"}, {"PER", 0, "ISDB"},
@@ -90,20 +94,13 @@ TEST(Descriptor, CountrySwitch)
         int binderAsked = 0;
         binder->acceptSpecifier = [&binderAsked](unsigned int) { ++binderAsked; return true; };
         TCDescriptor descriptor{ZUMHandle()};
-        TCDescriptorHash hash;
-        auto decodes = [&](unsigned char tableId) { return ParseLoop(descriptor, loop, hash, tableId) != 0; };
-        const std::pair<unsigned char, const char*> probes[] = {
-            {0xC7, "ATSC"}, {0xC4, "JPN"}, {0x4A, "DVB"}, {0x40, "ISDB"}};
-        std::string system;
-        for (const auto& probe : probes)
-            if (system.empty() && decodes(probe.first))
-                system = probe.second;
-        EXPECT_EQ(system, c.system);
-        EXPECT_EQ(binderAsked > 0, system == "DVB");
-        // All systems read program tables, but ATSC has no CAT scope; EIT schedule loops are decoded by nobody.
-        EXPECT_TRUE(decodes(0x02));
-        EXPECT_EQ(decodes(0x01), system != "ATSC");
-        EXPECT_FALSE(decodes(0x52));
+        std::string decoded;
+        for (unsigned char tableId : {0xC7, 0xC4, 0x4A, 0x40, 0x02, 0x01, 0x52}) {
+            TCDescriptorHash hash;
+            decoded += ParseLoop(descriptor, loop, hash, tableId) ? '1' : '0';
+        }
+        EXPECT_EQ(decoded, scopes.at(c.system));
+        EXPECT_EQ(binderAsked > 0, std::string(c.system) == "DVB");
     }
 }
 
@@ -183,7 +180,6 @@ TEST(Descriptor, RunOverAndShortLoops)
         {"empty loop", Bytes{}, 0, 0x42, {}, ""},
         {"negative length", Desc(0x48, {}), -1, 0x42, {}, "inLen=-1, outLen=0"},
         {"a scope without a factory walks nothing", Desc(0x48, {1, 2, 3}), 3, 0x52, {}, ""},
-        {"nor for a length of 0", Bytes{}, 0, 0x52, {}, ""},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);

@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "dvb/DVBSDTParser.h"
@@ -9,43 +12,26 @@
 
 using zumtest::Bytes;
 using zumtest::Desc;
-using zumtest::SectionBuilder;
 
 namespace {
 
 struct Service {
     unsigned id;
     unsigned runningStatus = 4;
-    bool freeCa = false;
-    bool schedule = true;
-    bool presentFollowing = true;
-    Bytes descriptors;
+    bool freeCa = false, schedule = true, presentFollowing = true;
+    Bytes descriptors = {};
 };
-
-Bytes ServiceDesc(unsigned type, const std::string& provider, const std::string& name)
-{
-    Bytes body{static_cast<uint8_t>(type), static_cast<uint8_t>(provider.size())};
-    body.insert(body.end(), provider.begin(), provider.end());
-    body.push_back(static_cast<uint8_t>(name.size()));
-    body.insert(body.end(), name.begin(), name.end());
-    return Desc(0x48, body);
-}
 
 Bytes Sdt(unsigned tableId, unsigned onid, unsigned tsid, unsigned version, unsigned section, unsigned last,
           const std::vector<Service>& services)
 {
-    SectionBuilder b(zumtest::LongHeader(tableId, tsid, version, section, last));
+    zumtest::SectionBuilder b(zumtest::LongHeader(tableId, tsid, version, section, last));
     b.U16(onid).U8(0xFF);
     for (const Service& s : services) {
         b.U16(s.id).U8(0xFC | (s.schedule ? 2 : 0) | (s.presentFollowing ? 1 : 0));
         b.Begin16(12, (s.runningStatus << 13) | (s.freeCa ? 0x1000 : 0)).Raw(s.descriptors).End();
     }
     return b.Build();
-}
-
-Service Plain(unsigned id)
-{
-    return Service{id, 4, false, true, true, {}};
 }
 
 std::vector<unsigned> Ids(const TCDVBSDTInstance* instance)
@@ -56,6 +42,9 @@ std::vector<unsigned> Ids(const TCDVBSDTInstance* instance)
     return ids;
 }
 
+// Type 1, no provider name, service name "TV".
+const Bytes kServiceDesc = Desc(0x48, {0x01, 0, 2, 'T', 'V'});
+
 } // namespace
 
 TEST(DVBSDTParser, ServiceFieldsAndDescriptors)
@@ -65,8 +54,8 @@ TEST(DVBSDTParser, ServiceFieldsAndDescriptors)
     sdt.Initialize();
     EXPECT_FALSE(sdt.IsInstanceRecv(0, 0));
     const std::vector<Service> services = {
-        {0x0001, 4, false, true, true, ServiceDesc(0x01, "ZUM", "News")},
-        {0x0002, 1, true, false, false, zumtest::Concat({ServiceDesc(0x02, "ZUM", "Radio"), Desc(0x5F, {0, 0, 0, 0x28})})},
+        {0x0001, 4, false, true, true, kServiceDesc},
+        {0x0002, 1, true, false, false, zumtest::Concat({kServiceDesc, Desc(0x5F, {0, 0, 0, 0x28})})},
         {0xFFFF, 7, true, true, false, {}},
     };
     EXPECT_TRUE(sdt.Parse(0x11, Sdt(0x42, 0x2000, 0x0440, 3, 0, 0, services).data()));
@@ -74,22 +63,16 @@ TEST(DVBSDTParser, ServiceFieldsAndDescriptors)
     const TCDVBSDTInstance* instance = sdt.DVBSDTInstance(0x0440, 0x2000);
     ASSERT_NE(instance, nullptr);
     EXPECT_EQ(instance, sdt.DVBSDTFirstInstance());
-    EXPECT_EQ(instance->TransportStreamId(), 0x0440);
-    EXPECT_EQ(instance->OriginalNetworkId(), 0x2000);
-    EXPECT_EQ(instance->VersionNumber(), 3);
+    EXPECT_EQ(std::make_tuple(instance->TransportStreamId(), instance->OriginalNetworkId(), instance->VersionNumber()),
+              std::make_tuple(0x0440, 0x2000, 3));
     EXPECT_EQ(Ids(instance), (std::vector<unsigned>{1, 2, 0xFFFF}));
-
-    struct Expect {
-        int runningStatus, freeCa, schedule, presentFollowing, descriptors;
-    } expected[] = {{4, 0, 1, 1, 1}, {1, 1, 0, 0, 1}, {7, 1, 1, 0, 0}};
-    for (int i = 0; i < 3; ++i) {
-        SCOPED_TRACE(i);
-        const TCDVBSDTItemService* s = instance->DVBSDTItemServiceOfIndex(static_cast<unsigned>(i));
-        EXPECT_EQ(s->RunningStatus(), expected[i].runningStatus);
-        EXPECT_EQ(s->FreeCAMode(), expected[i].freeCa);
-        EXPECT_EQ(s->EITScheduleFlag(), expected[i].schedule);
-        EXPECT_EQ(s->EITPresentFollowingFlag(), expected[i].presentFollowing);
-        EXPECT_EQ(s->NumOfDescriptors(), expected[i].descriptors);
+    // Running status, free CA, schedule, present/following, descriptors kept.
+    const std::tuple<int, int, int, int, int> expected[] = {{4, 0, 1, 1, 1}, {1, 1, 0, 0, 1}, {7, 1, 1, 0, 0}};
+    for (unsigned i = 0; i < 3; ++i) {
+        const TCDVBSDTItemService* s = instance->DVBSDTItemServiceOfIndex(i);
+        EXPECT_EQ(std::make_tuple(s->RunningStatus(), s->FreeCAMode(), s->EITScheduleFlag(),
+                                  s->EITPresentFollowingFlag(), s->NumOfDescriptors()),
+                  expected[i]) << i;
     }
     // The specifier descriptor is not kept; the service descriptor is, with the loop's table id.
     EXPECT_EQ(instance->DVBSDTItemServiceBySID(2)->NumOfDescriptors(0x48), 1);
@@ -98,29 +81,22 @@ TEST(DVBSDTParser, ServiceFieldsAndDescriptors)
     EXPECT_EQ(instance->IndexOfDVBSDTItemServiceBySID(3), -1);
     EXPECT_EQ(instance->DVBSDTItemServiceBySID(3), nullptr);
     EXPECT_EQ(instance->DVBSDTItemServiceOfIndex(3), nullptr);
-}
 
-TEST(DVBSDTParser, EmptySdtCountsAsReceived)
-{
-    zumtest::BinderScope binder;
-    TCDVBSDTParser sdt(0x42, ZUMHandle());
-    const Bytes s = Sdt(0x42, 1, 2, 0, 0, 0, {});
-    ASSERT_EQ(s[2], 12); // length 7 reaches the parser's t_Parse
-    EXPECT_TRUE(sdt.Parse(0x11, s.data()));
+    // An SDT without services (length 7 at the parser's hook) counts as received.
+    const Bytes empty = Sdt(0x42, 1, 2, 0, 0, 0, {});
+    ASSERT_EQ(empty[2], 12);
+    EXPECT_TRUE(sdt.Parse(0x11, empty.data()));
     EXPECT_EQ(sdt.DVBSDTInstance(2, 1)->NumOfDVBSDTItemService(), 0);
     EXPECT_TRUE(sdt.IsInstanceRecv(9, 9));
+    EXPECT_EQ(sdt.DVBSDTFirstInstance(), sdt.DVBSDTInstance(2, 1)) << "the instance of the section parsed last";
 }
 
 // An SDT actual over several sections with a version change half way.
 TEST(DVBSDTParser, SectionsInAnyOrderAndVersionChange)
 {
-    struct Step {
-        unsigned version, section, last;
-        std::vector<unsigned> ids;
-        bool result;
-        std::vector<unsigned> listed;
-        bool recv;
-    } steps[] = {
+    // The services of the section, Parse's answer, all services listed afterwards, IsInstanceRecv.
+    const struct { unsigned version, section, last; std::vector<unsigned> ids; bool result;
+                   std::vector<unsigned> listed; bool recv; } steps[] = {
         {1, 1, 2, {20, 21}, false, {20, 21}, false},
         {1, 0, 2, {10}, false, {10, 20, 21}, false},
         {1, 0, 2, {10}, false, {10, 20, 21}, false},
@@ -130,13 +106,12 @@ TEST(DVBSDTParser, SectionsInAnyOrderAndVersionChange)
     };
     zumtest::BinderScope binder;
     TCDVBSDTParser sdt(0x42, ZUMHandle());
-    sdt.Initialize();
     int i = 0;
-    for (const Step& st : steps) {
+    for (const auto& st : steps) {
         SCOPED_TRACE(i++);
         std::vector<Service> services;
         for (unsigned id : st.ids)
-            services.push_back(Plain(id));
+            services.push_back(Service{id});
         EXPECT_EQ(sdt.Parse(0x11, Sdt(0x42, 0x2000, 0x0440, st.version, st.section, st.last, services).data()),
                   st.result);
         EXPECT_EQ(Ids(sdt.DVBSDTInstance(0x0440, 0x2000)), st.listed);
@@ -148,9 +123,8 @@ TEST(DVBSDTParser, OtherTableKeepsInstancesApart)
 {
     zumtest::BinderScope binder;
     TCDVBSDTParser other(0x46, ZUMHandle());
-    other.Initialize();
-    EXPECT_TRUE(other.Parse(0x11, Sdt(0x46, 0x1000, 0x0001, 0, 0, 0, {Plain(1)}).data()));
-    EXPECT_FALSE(other.Parse(0x11, Sdt(0x46, 0x1000, 0x0002, 0, 0, 1, {Plain(2)}).data()));
+    EXPECT_TRUE(other.Parse(0x11, Sdt(0x46, 0x1000, 0x0001, 0, 0, 0, {{1}}).data()));
+    EXPECT_FALSE(other.Parse(0x11, Sdt(0x46, 0x1000, 0x0002, 0, 0, 1, {{2}}).data()));
     EXPECT_EQ(other.NumOfDVBSDTInstance(), 2);
     EXPECT_EQ(other.DVBSDTFirstInstance()->TransportStreamId(), 0x0002);
     EXPECT_EQ(Ids(other.DVBSDTInstance(0x0001, 0x1000)), std::vector<unsigned>{1});
@@ -160,12 +134,12 @@ TEST(DVBSDTParser, OtherTableKeepsInstancesApart)
 
     // An actual parser looks at the lowest key, whatever it is asked.
     TCDVBSDTParser actual(0x42, ZUMHandle());
-    actual.Parse(0x11, Sdt(0x42, 0x1000, 0x0002, 0, 0, 1, {Plain(2)}).data());
-    actual.Parse(0x11, Sdt(0x42, 0x1000, 0x0001, 0, 0, 0, {Plain(1)}).data());
+    actual.Parse(0x11, Sdt(0x42, 0x1000, 0x0002, 0, 0, 1, {{2}}).data());
+    actual.Parse(0x11, Sdt(0x42, 0x1000, 0x0001, 0, 0, 0, {{1}}).data());
     EXPECT_TRUE(actual.IsInstanceRecv(0x0002, 0x1000));
     // A parser of another table id answers false.
     TCDVBSDTParser odd(0x4A, ZUMHandle());
-    odd.Parse(0x11, Sdt(0x4A, 0x1000, 0x0001, 0, 0, 0, {Plain(1)}).data());
+    odd.Parse(0x11, Sdt(0x4A, 0x1000, 0x0001, 0, 0, 0, {{1}}).data());
     EXPECT_FALSE(odd.IsInstanceRecv(0x0001, 0x1000));
 
     other.Initialize();
@@ -177,12 +151,11 @@ TEST(DVBSDTParser, OtherTableKeepsInstancesApart)
 TEST(DVBSDTParser, LoopLongerThanTheSectionIsReadToItsEnd)
 {
     zumtest::BinderScope binder;
-    SectionBuilder b(zumtest::LongHeader(0x42, 1));
+    zumtest::SectionBuilder b(zumtest::LongHeader(0x42, 1));
     // One service whose descriptor loop claims 200 bytes; 7 follow.
-    b.U16(1).U8(0xFF).U16(5).U8(0xFD).U16(0x8000 | 200).Raw(ServiceDesc(1, "", "TV"));
-    const Bytes s = b.Build();
+    b.U16(1).U8(0xFF).U16(5).U8(0xFD).U16(0x8000 | 200).Raw(kServiceDesc);
     TCDVBSDTParser sdt(0x42, ZUMHandle());
-    EXPECT_TRUE(sdt.Parse(0x11, s.data()));
+    EXPECT_TRUE(sdt.Parse(0x11, b.Build().data()));
     const TCDVBSDTItemService* service = sdt.DVBSDTInstance(1, 1)->DVBSDTItemServiceOfIndex(0);
     ASSERT_NE(service, nullptr);
     EXPECT_EQ(service->ServiceId(), 5);
@@ -191,13 +164,11 @@ TEST(DVBSDTParser, LoopLongerThanTheSectionIsReadToItsEnd)
 
 TEST(DVBSDTParser, RealCaptureSection)
 {
-    const std::string path = std::string(ZUM_CAPTURES_DIR) + "/tsduck_tsduck__psi_sdt_r3_sections.0.SDT.bin";
-    FILE* f = std::fopen(path.c_str(), "rb");
-    if (!f)
+    std::ifstream in(std::string(ZUM_CAPTURES_DIR) + "/tsduck_tsduck__psi_sdt_r3_sections.0.SDT.bin",
+                     std::ios::binary);
+    if (!in)
         GTEST_SKIP() << "captures not present";
-    Bytes s(4096);
-    s.resize(std::fread(s.data(), 1, s.size(), f));
-    std::fclose(f);
+    const Bytes s((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
     ASSERT_EQ(s.size(), 3u + (((s[1] & 0x0F) << 8) | s[2]));
     zumtest::BinderScope binder;
     TCDVBSDTParser sdt(s[0], ZUMHandle());
@@ -206,8 +177,6 @@ TEST(DVBSDTParser, RealCaptureSection)
     ASSERT_NE(instance, nullptr);
     EXPECT_EQ(instance->OriginalNetworkId(), (s[8] << 8) | s[9]);
     ASSERT_GT(instance->NumOfDVBSDTItemService(), 0);
-    for (int i = 0; i < instance->NumOfDVBSDTItemService(); ++i) {
-        const TCDVBSDTItemService* service = instance->DVBSDTItemServiceOfIndex(static_cast<unsigned>(i));
-        EXPECT_EQ(service->NumOfDescriptors(0x48), 1) << "service " << service->ServiceId();
-    }
+    for (int i = 0; i < instance->NumOfDVBSDTItemService(); ++i)
+        EXPECT_EQ(instance->DVBSDTItemServiceOfIndex(static_cast<unsigned>(i))->NumOfDescriptors(0x48), 1) << i;
 }

@@ -1,10 +1,12 @@
-// Event descriptors: short and extended event, component, stream identifier, content, parental rating.
+// Event and stream descriptors: short and extended event, component, stream identifier, content, parental rating;
+// ISO 639 language, teletext, subtitling.
 #include <gtest/gtest.h>
 
 #include <zum-platform/Dlog.h>
 
 #include "dvb/DescComponent.h"
 #include "dvb/DescContent.h"
+#include "dvb/DescLanguage.h"
 #include "dvb/DescLoopProbe.h"
 #include "dvb/DescShortEvent.h"
 
@@ -62,18 +64,14 @@ TEST(DescShortEvent, BodiesOfBothSystems)
         {{'e', 'n', 'g', 1, 'A', 3, 'x', 'y'}, "eng A <none> 3", "inLen=8, outLen=6"}, // one byte over
         {{'e', 'n', 'g'}, "eng <none> <none> 0"},
         {{'e', 'n'}, "- <none> <none> 0", "inLen=2, outLen=0"},
-        {{}, "- <none> <none> 0"},
     });
     ExpectBodies(0x4D, [] { return new TCDescShortEventISDB(); }, ShortEvent, {
-        {{'e', 'n', 'g', 4, 'N', 'e', 'w', 's', 5, 'T', 'o', 'd', 'a', 'y'}, "eng News Today 5"},
         {{'e', 'n', 'g', 3, 'A', 'B', 'C'}, "eng ABC <none> 0"},
         {{'e', 'n', 'g', 1, 'A', 9, 'x', 'y'}, "eng A xy 2"},
         {{'e', 'n'}, "- <none> <none> 0", "inLen=2, outLen=0"},
-        {{}, "- <none> <none> 0"},
     });
     auto d = Decode(new TCDescShortEvent(), Desc(0x4D, {'e', 'n', 'g', 4, 'N', 'e', 'w', 's', 0}));
-    ExpectCopies(*d, &TCDescShortEvent::EventNameChar,
-                 {{5, true, 4, "News###"}, {4, true, 4, "News##"}, {3, false, 3, "New##"}, {0, false, 0, "##"}});
+    ExpectCopies(*d, &TCDescShortEvent::EventNameChar, {{3, false, 3, "New##"}});
 }
 
 // Where the lengths of the body do not add up, the header stays and neither items nor text are kept. Each item
@@ -97,8 +95,7 @@ TEST(DescExtendedEvent, Bodies)
     auto d = Decode(new TCDescExtendedEvent(), Desc(0x4E, ExtendedBody(0x00, {}, "Long text")));
     EXPECT_EQ(d->TextLength(), 9u);
     // The long text is copied with true also when cut.
-    ExpectCopies(*d, &TCDescExtendedEvent::TextChar,
-                 {{9, true, 9, "Long text##"}, {8, true, 8, "Long tex##"}, {0, false, 0, "##"}});
+    ExpectCopies(*d, &TCDescExtendedEvent::TextChar, {{8, true, 8, "Long tex##"}});
 
     zumtest::LogCapture log;
     CitemDesc item;
@@ -120,7 +117,7 @@ TEST(DescExtendedEvent, FlagEqualFindsTheSamePiece)
     };
     auto first = piece(0x01, "eng");
     const struct { UChar numbers; const char* language; bool equal; } cases[] = {
-        {0x01, "eng", true}, {0x01, "ENG", true}, {0x11, "eng", false}, {0x02, "eng", false}, {0x01, "deu", false}};
+        {0x01, "ENG", true}, {0x11, "eng", false}, {0x02, "eng", false}, {0x01, "deu", false}};
     for (const auto& c : cases)
         EXPECT_EQ(first->FlagEqual(piece(c.numbers, c.language).get()), c.equal) << int(c.numbers) << c.language;
     EXPECT_FALSE(first->FlagEqual(static_cast<const TCDescExtendedEvent*>(nullptr)));
@@ -142,7 +139,7 @@ TEST(DescComponent, Bodies)
         {{}, "0 0 0 0 0 - 0 <none>"},
     });
     auto d = Decode(make(), Desc(0x50, {0xE5, 0x0B, 0x42, 'd', 'e', 'u', 'H', 'D', 'T', 'V'}));
-    ExpectCopies(*d, &TCDescComponent::TextChar, {{4, true, 4, "HDTV##"}, {3, false, 3, "HDT##"}, {0, false, 0, "##"}});
+    ExpectCopies(*d, &TCDescComponent::TextChar, {{3, false, 3, "HDT##"}});
     // The clone keeps the system, which only the constructor knows.
     auto hd = Decode(new TCDescComponent(1), Desc(0x50, {0x01, 0xB1, 0, 'e', 'n', 'g'}));
     std::unique_ptr<TCBaseDesc> clone(hd->Fork());
@@ -153,7 +150,7 @@ TEST(DescComponent, Bodies)
 }
 
 // The receiver's classification of a component. ext -1 means that it does not matter: such a row runs with 0 and 0xF.
-TEST(DescComponent, Classification)
+TEST(DescComponent, ClassificationAndStreamIdentifier)
 {
     const struct { int system, ext; UChar content, type, tag; const char* flags; } cases[] = {
         {0, -1, 0x1, 0x01, 0, ""},           {0, -1, 0x1, 0x09, 0, " HD"},        {0, -1, 0x1, 0x10, 0, " HD"},
@@ -182,23 +179,19 @@ TEST(DescComponent, Classification)
             EXPECT_EQ(flags, c.flags);
         }
     }
-}
-
-TEST(DescStreamIdentifier, ComponentTag)
-{
+    // The stream identifier carries the component tag alone.
     ExpectBodies(0x52, [] { return new TCDescStreamIdentifier(); },
                  [](const TCDescStreamIdentifier& d) { return Join(d.ComponentTag()); },
                  {{{0x21}, "33"}, {{0x21, 0x00}, "33", "inLen=2, outLen=1"}, {{}, "0"}});
 }
 
 // Count, then the four nibbles of each entry from index -1 to the count: zeros outside.
-TEST(DescContent, NibblesPerEntry)
+TEST(DescContent, NibblesPerEntryAndParentalRatings)
 {
     ExpectBodies(0x54, [] { return new TCDescContent(); }, Nibbles, {
         {{0x12, 0x34, 0xAB, 0xCD}, "2 0 0 0 0 1 2 3 4 10 11 12 13 0 0 0 0"},
         {{0x12, 0x34, 0xAB, 0xCD, 0xEF}, "2 0 0 0 0 1 2 3 4 10 11 12 13 0 0 0 0", "inLen=5, outLen=4"},
         {{0x12}, "0 0 0 0 0 0 0 0 0", "inLen=1, outLen=0"},
-        {{}, "0 0 0 0 0 0 0 0 0"},
     });
     // The specifier that the loop stored is not in the raw bytes: the clone must take it over.
     auto d = Decode(new TCDescContent(), Desc(0x54, {0x12, 0x34}));
@@ -209,11 +202,7 @@ TEST(DescContent, NibblesPerEntry)
     ASSERT_NE(content, nullptr);
     EXPECT_EQ(content->PDSD(), 0x233Au);
     EXPECT_EQ(Nibbles(*content), Nibbles(*d));
-}
-
-// Count, then country code and rating from index -1 to the count; codes keep the case they were sent in.
-TEST(DescParentalRating, RatingPerCountry)
-{
+    // Count, then country code and rating from index -1 to the count; codes keep the case they were sent in.
     ExpectBodies(0x55, [] { return new TCDescParentalRating(); }, [](const TCDescParentalRating& d) {
         std::string s = Join(d.Count());
         for (int i = -1; i <= d.Count(); ++i)
@@ -223,39 +212,57 @@ TEST(DescParentalRating, RatingPerCountry)
         {{'G', 'B', 'R', 0x0C, 'f', 'r', 'a', 0x05}, "2 -:0 GBR:12 fra:5 -:0"},
         {{'G', 'B', 'R', 0x0C, 'f', 'r', 'a'}, "1 -:0 GBR:12 -:0", "inLen=7, outLen=4"},
         {{'G', 'B', 'R'}, "0 -:0 -:0", "inLen=3, outLen=0"},
-        {{}, "0 -:0 -:0"},
     });
 }
 
-TEST(EventDescriptors, FactoryRows)
+// Count, then language and audio type of each entry (3 is visual impaired commentary).
+TEST(DescLanguage, EntriesTeletextPagesAndSubtitles)
 {
-    const Bytes component = Desc(0x50, {0x01, 0xB1, 0x01, 'p', 'o', 'r'}), rating = Desc(0x55, {'B', 'R', 'A', 2});
-    const Bytes shortEvent = Desc(0x4D, {'e', 'n', 'g', 0, 0}), content = Desc(0x54, {0x12, 0x34});
-    const Bytes extendedEvent = Desc(0x4E, ExtendedBody(0x00, {}, "t")), stream = Desc(0x52, {0x01});
-    ExpectRows({
-        {"GBR", 0x4E, shortEvent, 0x4D, typeid(TCDescShortEvent)},
-        {"BRA JPN", 0x4E, shortEvent, 0x4D, typeid(TCDescShortEventISDB)},
-        {"GBR BRA", 0x4E, extendedEvent, 0x4E, typeid(TCDescExtendedEvent)},
-        {"GBR BRA USA", 0x02, stream, 0x52, typeid(TCDescStreamIdentifier)},
-        {"GBR", 0x42, stream, 0x52, typeid(TCDescDefault)}, // in SI tables the stream identifier has no row
-        {"GBR BRA", 0x4E, content, 0x54, typeid(TCDescContent)},
-        {"GBR BRA", 0x4E, rating, 0x55, typeid(TCDescParentalRating)},
-        {"BRA", 0x02, rating, 0x55, typeid(TCDescParentalRating)}, // of the program tables only the ISDB one has it
-        {"GBR", 0x02, rating, 0x55, typeid(TCDescDefault)},
-        {"GBR USA", 0x74, rating, 0x55, typeid(TCDescParentalRating)}, // the application table has it everywhere
+    ExpectBodies(0x0A, [] { return new TCDescLanguage(); }, [](const TCDescLanguage& d) {
+        std::string s = Join(d.Count());
+        ELanguageCode language = 0;
+        EAudioType audioType = AUDIO_TYPE_UNDEFINED;
+        for (int i = 0; i < d.Count() && d.Language(i, &language, &audioType); ++i)
+            s += " " + Code(language) + ":" + Join(static_cast<int>(audioType));
+        return s;
+    }, {
+        {{'e', 'n', 'g', 0x00, 'q', 'a', 'd', 0x03}, "2 eng:0 qad:3"},
+        {{'e', 'n', 'g', 0x00, 'q', 'a', 'd', 0x03, 'x', 'y'}, "2 eng:0 qad:3", "inLen=10, outLen=8"},
+        {{'e', 'n', 'g'}, "0", "inLen=3, outLen=0"},
     });
-    // Both factories make the component class, with a system argument of their own: the ISDB one classifies ISDB
-    // HD types.
-    for (const char* country : {"GBR", "BRA"}) {
-        TCDescriptorHash hash;
-        Walk(country, 0x4E, component, hash);
-        auto* d = dynamic_cast<TCDescComponent*>(hash.Descriptor(0x50, 0));
-        ASSERT_NE(d, nullptr);
-        EXPECT_EQ(d->IsHD(), std::string(country) == "BRA") << country;
+    // An index outside the entries asserts and answers false with nothing set.
+    auto d = Decode(new TCDescLanguage(), Desc(0x0A, {'e', 'n', 'g', 0x01}));
+    for (int index : {-1, 1}) {
+        zumtest::LogCapture log;
+        ELanguageCode language = 7;
+        EAudioType audioType = AUDIO_TYPE_HEARING_IMPAIRED;
+        EXPECT_FALSE(d->Language(index, &language, &audioType));
+        EXPECT_TRUE(language == 7u && audioType == AUDIO_TYPE_HEARING_IMPAIRED && log.Contains("Failed: 0")) << index;
     }
-    // Under the Dish TV specifier the genre descriptor keeps its raw bytes, and stays in the loop.
-    TCDescriptorHash hash;
-    Walk("GBR", 0x4E, zumtest::Concat({Desc(0x5F, {0xEC, 0xCA, 0x00, 0x01}), content}), hash);
-    ASSERT_EQ(hash.NumOfDescriptors(), 1);
-    EXPECT_EQ(ClassOf(hash.Descriptor(0x54, 0)), typeid(TCDescDefault).name());
+    // Count, then language, type, magazine and page from index -1 to the count: zeros outside.
+    ExpectBodies(0x56, [] { return new TCDescTeletext(); }, [](const TCDescTeletext& d) {
+        std::string s = Join(d.Count());
+        for (int i = -1; i <= d.Count(); ++i)
+            s += ", " + Join(Code(d.Iso639LangCode(i)), d.TeletextType(i), d.TeletextMagzineNumber(i),
+                             d.TeletextPageNumber(i));
+        return s;
+    }, {
+        {{'d', 'e', 'u', 0x11, 0x50, 'e', 'n', 'g', 0x2F, 0x88}, "2, - 0 0 0, deu 2 1 80, eng 5 7 136, - 0 0 0"},
+        {{'d', 'e', 'u', 0x11, 0x50, 'e', 'n'}, "1, - 0 0 0, deu 2 1 80, - 0 0 0", "inLen=7, outLen=5"},
+        {{'d', 'e', 'u', 0x11}, "0, - 0 0 0, - 0 0 0"},
+    });
+    // Count, then language, type, composition and ancillary page from index -1 to the count: zeros outside.
+    ExpectBodies(0x59, [] { return new TCDescSubtitling(); }, [](const TCDescSubtitling& d) {
+        std::string s = Join(d.Count());
+        for (int i = -1; i <= d.Count(); ++i)
+            s += ", " + Join(Code(d.Iso639LangCode(i)), d.SubtitlingType(i), d.CompositionPageId(i),
+                             d.AncillaryPageId(i));
+        return s;
+    }, {
+        {{'e', 'n', 'g', 0x10, 0x00, 0x01, 0x00, 0x02, 'f', 'r', 'a', 0x20, 0x12, 0x34, 0x56, 0x78},
+         "2, - 0 0 0, eng 16 1 2, fra 32 4660 22136, - 0 0 0"},
+        {{'e', 'n', 'g', 0x10, 0x00, 0x01, 0x00, 0x02, 'f', 'r', 'a'}, "1, - 0 0 0, eng 16 1 2, - 0 0 0",
+         "inLen=11, outLen=8"},
+        {{'e', 'n', 'g', 0x10}, "0, - 0 0 0, - 0 0 0", "inLen=4, outLen=0"},
+    });
 }

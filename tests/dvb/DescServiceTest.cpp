@@ -1,5 +1,5 @@
 // Service descriptors: service, service list, service move, country availability, CA identifier,
-// private data specifier.
+// private data specifier; and the factory rows of all the DVB descriptor classes.
 #include <gtest/gtest.h>
 
 #include <list>
@@ -8,11 +8,20 @@
 #include <zum-platform/PlatformConfig.h>
 
 #include "dvb/DescCAIdentifier.h"
+#include "dvb/DescComponent.h"
+#include "dvb/DescContent.h"
 #include "dvb/DescCountryAvailability.h"
+#include "dvb/DescLanguage.h"
+#include "dvb/DescLocalTimeOffset.h"
 #include "dvb/DescLoopProbe.h"
+#include "dvb/DescMultilingualNetworkName.h"
+#include "dvb/DescNetworkName.h"
 #include "dvb/DescPrivateDataSpecifier.h"
+#include "dvb/DescSatelliteDeliverySystem.h"
 #include "dvb/DescService.h"
 #include "dvb/DescServiceMove.h"
+#include "dvb/DescShortEvent.h"
+#include "dvb/DescT2SystemDelivery.h"
 #include "dvb/ServiceKey.h"
 
 using namespace svctest;
@@ -55,12 +64,9 @@ TEST(DescService, Bodies)
         {{0x01}, "1 <none> <none>"},
         {{}, "0 <none> <none>"},
     });
-    ExpectClone(*Decode(NewService(), Desc(0x48, ServiceBody(0x19, "BBC", "One"))));
-
     auto ten = Decode(NewService(), Desc(0x48, ServiceBody(0x01, "", "0123456789")));
     ExpectCopiesBy<UChar, UShort>([&](UChar* b, UShort* s) { return ten->ServiceNameText(b, *s); },
-                                  {{11, true, 10, "0123456789###"}, {10, true, 10, "0123456789##"},
-                                   {9, false, 9, "012345678##"}, {4, false, 4, "0123##"}, {0, false, 0, "##"}});
+                                  {{10, true, 10, "0123456789##"}, {9, false, 9, "012345678##"}, {0, false, 0, "##"}});
     // Nothing to copy, or no buffer: false with size 0.
     ExpectCopiesBy<UChar, UShort>([&](UChar* b, UShort* s) { return ten->ServiceProviderNameText(b, *s); },
                                   {{8, false, 0, "##########"}});
@@ -100,7 +106,7 @@ TEST(DescService, ServiceTypeAsTheReceiverKnowsIt)
 }
 
 // Count, then id/type of every entry from index -1 to the count: all bits set outside.
-TEST(DescServiceList, Entries)
+TEST(DescServiceList, EntriesAndServiceMove)
 {
     ExpectBodies(0x41, [] { return new TCDescServiceList(); }, [](const TCDescServiceList& d) {
         std::string s = Join(d.NumberOfLoop());
@@ -111,13 +117,8 @@ TEST(DescServiceList, Entries)
         {{0x10, 0x01, 0x01, 0x10, 0x02, 0x19}, "2 65535/255 4097/1 4098/25 65535/255"},
         {{0x10, 0x01, 0x01, 0x10, 0x02, 0x19, 0xAA}, "2 65535/255 4097/1 4098/25 65535/255", "inLen=7, outLen=6"},
         {{0x10, 0x01}, "0 65535/255 65535/255", "inLen=2, outLen=0"},
-        {{}, "0 65535/255 65535/255"},
     });
-}
-
-// Original network, transport stream and service ids, by the accessors and through the key.
-TEST(DescServiceMove, NewLocation)
-{
+    // Original network, transport stream and service ids, by the accessors and through the key.
     auto make = [] { return new TCDescServiceMove(); };
     ExpectBodies(0x60, make, [](const TCDescServiceMove& d) {
         TCServiceKey key(1, 2, 3);
@@ -152,7 +153,6 @@ TEST(DescCountryAvailability, FlagAndList)
         {{0x80}, "0 XXX 0 0"},
         {{0x00}, "0 XXX 1 1"},
         {{0x80, 'G', 'B', 'R', 'I', 'R'}, "1 XXX GBR 1 0", "inLen=6, outLen=4"},
-        {{}, "0 XXX 1 1"},
     });
     // The enumerations come through the platform's tables; a country outside them is "others" (78).
     auto d = Decode(make(), Desc(0x49, {0x80, 'G', 'B', 'R', 'B', 'R', 'A', 'Z', 'M', 'B'}));
@@ -174,7 +174,7 @@ TEST(DescCountryAvailability, FlagAndList)
     EXPECT_EQ(codes, (std::list<ECountryCode>{0x49524C}));
 }
 
-TEST(DescCAIdentifier, SystemIds)
+TEST(DescCAIdentifier, SystemIdsAndSpecifier)
 {
     ExpectBodies(0x53, [] { return new TCDescCAIdentifier(); }, [](const TCDescCAIdentifier& d) {
         std::string s;
@@ -187,30 +187,69 @@ TEST(DescCAIdentifier, SystemIds)
         {{0x05}, "1280 "},
         {{}, ""},
     });
-}
-
-TEST(DescPrivateDataSpecifier, FourBytesBigEndian)
-{
+    // The specifier: four bytes, big-endian.
     ExpectBodies(0x5F, [] { return new TCDescPrivateDataSpecifier(); },
                  [](const TCDescPrivateDataSpecifier& d) { return Join(d.PrivateDataSpecifier()); }, {
         {{0xEC, 0xCA, 0x00, 0x01}, "3972661249"},
         {{0x00, 0x00, 0x00, 0x28, 0xFF}, "40", "inLen=5, outLen=4"},
         {{0x00, 0x00, 0x22}, "0", "inLen=3, outLen=0"},
-        {{}, "0"},
     });
 }
 
-TEST(ServiceDescriptors, FactoryRows)
+// Which class each factory makes, by country and table scope: SI tables, program tables (0x02) and the
+// application table (0x74). An ISDB country's SI factory falls back to the DVB rows.
+TEST(DVBDescriptorFactories, Rows)
 {
-    const Bytes service = Desc(0x48, ServiceBody(1, "", "A")), move = Desc(0x60, {0, 2, 4, 0x10, 0x12, 0x34});
+    const Bytes move = Desc(0x60, {0, 2, 4, 0x10, 0x12, 0x34}), stream = Desc(0x52, {0x01});
+    const Bytes shortEvent = Desc(0x4D, {'e', 'n', 'g', 0, 0}), content = Desc(0x54, {0x12, 0x34});
+    const Bytes rating = Desc(0x55, {'B', 'R', 'A', 2}), language = Desc(0x0A, {'e', 'n', 'g', 0});
+    const Bytes teletext = Desc(0x56, {'d', 'e', 'u', 0x11, 0x50});
     ExpectRows({
-        {"GBR BRA", 0x42, service, 0x48, typeid(TCDescService)},
+        {"GBR BRA", 0x40, Desc(0x43, Bytes(11, 0)), 0x43, typeid(TCDescSatelliteDeliverySystem)},
+        {"GBR BRA", 0x40, Desc(0x44, Bytes(11, 0)), 0x44, typeid(TCDescCableDeliverySystem)},
+        {"GBR BRA", 0x41, Desc(0x5A, Bytes(11, 0)), 0x5A, typeid(TCDescTerrestrialDeliverySystem)},
+        {"GBR BRA", 0x41, Desc(0x62, Bytes(5, 0)), 0x62, typeid(TCDescFrequencyList)},
+        {"GBR BRA", 0x40, Desc(0x7F, {0x04, 0x00, 0x12, 0x34}), 0x7F04, typeid(TCDescT2SystemDelivery)},
+        {"GBR BRA", 0x73, Desc(0x58, Bytes(13, 0)), 0x58, typeid(TCDescLocalTimeOffset)},
+        {"GBR DEU", 0x41, Desc(0x40, {'N'}), 0x40, typeid(TCDescNetworkName)},
+        {"GBR", 0x4A, Desc(0x47, {'B'}), 0x47, typeid(TCDescBouquetName)},
+        {"GBR", 0x4A, Desc(0x5C, {'e', 'n', 'g', 1, 'B'}), 0x5C, typeid(TCDescMultilingualBouquetName)},
+        {"GBR", 0x40, Desc(0x5B, {'e', 'n', 'g', 1, 'N'}), 0x5B, typeid(TCDescMultilingualNetworkName)},
+        {"GBR", 0x42, Desc(0x5D, {'e', 'n', 'g', 0, 0}), 0x5D, typeid(TCDescMultilingualServiceName)},
+        {"GBR", 0x4E, Desc(0x5E, {0x07, 'e', 'n', 'g', 0}), 0x5E, typeid(TCDescDefault)}, // no factory makes it
+        {"GBR BRA", 0x42, Desc(0x48, ServiceBody(1, "", "A")), 0x48, typeid(TCDescService)},
         {"GBR", 0x40, Desc(0x41, {0, 1, 1}), 0x41, typeid(TCDescServiceList)},
         {"GBR BRA", 0x02, move, 0x60, typeid(TCDescServiceMove)},
         {"GBR", 0x42, move, 0x60, typeid(TCDescDefault)},
         {"GBR BRA", 0x42, Desc(0x49, {0x80, 'G', 'B', 'R'}), 0x49, typeid(TCDescCountryAvailability)},
         {"GBR", 0x42, Desc(0x53, {0x09, 0x63}), 0x53, typeid(TCDescDefault)}, // no SI factory makes it
+        {"GBR", 0x4E, shortEvent, 0x4D, typeid(TCDescShortEvent)},
+        {"BRA JPN", 0x4E, shortEvent, 0x4D, typeid(TCDescShortEventISDB)},
+        {"GBR BRA", 0x4E, Desc(0x4E, {0x00, 'e', 'n', 'g', 0, 1, 't'}), 0x4E, typeid(TCDescExtendedEvent)},
+        {"GBR BRA USA", 0x02, stream, 0x52, typeid(TCDescStreamIdentifier)},
+        {"GBR", 0x42, stream, 0x52, typeid(TCDescDefault)}, // in SI tables the stream identifier has no row
+        {"GBR BRA", 0x4E, content, 0x54, typeid(TCDescContent)},
+        // Under the Dish TV specifier the genre descriptor keeps its raw bytes.
+        {"GBR", 0x4E, zumtest::Concat({Desc(0x5F, {0xEC, 0xCA, 0x00, 0x01}), content}), 0x54, typeid(TCDescDefault)},
+        {"GBR BRA", 0x4E, rating, 0x55, typeid(TCDescParentalRating)},
+        {"BRA", 0x02, rating, 0x55, typeid(TCDescParentalRating)}, // of the program tables only the ISDB one has it
+        {"GBR", 0x02, rating, 0x55, typeid(TCDescDefault)},
+        {"GBR USA", 0x74, rating, 0x55, typeid(TCDescParentalRating)}, // the application table has it everywhere
+        {"GBR BRA USA", 0x02, language, 0x0A, typeid(TCDescLanguage)},
+        {"GBR", 0x4E, language, 0x0A, typeid(TCDescDefault)},
+        {"GBR BRA", 0x02, teletext, 0x56, typeid(TCDescTeletext)},
+        {"USA", 0x02, teletext, 0x56, typeid(TCDescDefault)},
+        {"GBR", 0x42, teletext, 0x56, typeid(TCDescDefault)},
+        {"GBR", 0x02, Desc(0x59, {'e', 'n', 'g', 0x10, 0, 1, 0, 2}), 0x59, typeid(TCDescSubtitling)},
     });
+    // Both factories make the component class, with a system argument of their own: the ISDB one classifies
+    // ISDB HD types.
+    for (const char* country : {"GBR", "BRA"}) {
+        TCDescriptorHash hash;
+        Walk(country, 0x4E, Desc(0x50, {0x01, 0xB1, 0x01, 'p', 'o', 'r'}), hash);
+        auto* d = dynamic_cast<TCDescComponent*>(hash.Descriptor(0x50, 0));
+        EXPECT_TRUE(d && d->IsHD() == (std::string(country) == "BRA")) << country;
+    }
     // Only the EACEM specifier stays as a descriptor in SI loops; a PMT filters the same way, but not in ISDB.
     const struct { const char* country; UChar tableId, low, high; bool kept; } specifiers[] = {
         {"GBR", 0x40, 0x22, 0xC6, 1}, {"GBR", 0x40, 0x00, 0x28, 0}, {"GBR", 0x02, 0x22, 0xC6, 1},

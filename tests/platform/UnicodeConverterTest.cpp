@@ -13,20 +13,13 @@ using Bytes = std::vector<unsigned char>;
 
 constexpr ELanguageCode kNoLang = static_cast<ELanguageCode>(-1);
 
-bool ToString(const Bytes& text, unsigned short& length, U16& out)
-{
-    Bytes source = text;
-    TCUnicodeConverter converter(kZUMDefaultHandle);
-    return converter.ConvertToUnicode(source.empty() ? nullptr : source.data(), length, out, false, kNoLang,
-                                      true);
-}
-
 } // namespace
 
 // The leading bytes pick the table; an unknown table answers false, empty and nothing consumed.
 TEST(UnicodeConverter, TablesByLeadingBytes)
 {
-    struct Case { Bytes source; bool ok; U16 expected; } cases[] = {
+    // length: what the caller gives, -1 for the whole source (an empty source goes as null)
+    struct Case { Bytes source; bool ok; U16 expected; int length = -1; } cases[] = {
         {{'C', 'a', 'f', 0xC2, 'e', ' ', 0xCF, 's'}, true, {'C', 'a', 'f', 0xE9, ' ', 0x161}},
         // no precomposed form; spacing letters of the default table; a mark at the end is dropped
         {{0xC8, 'x'}, true, {'x', 0x308}}, {{0xE9, 0xFB, 0xA4}, true, {0xD8, 0xDF, 0x20AC}}, {{'a', 0xC2}, true, {'a'}},
@@ -41,27 +34,23 @@ TEST(UnicodeConverter, TablesByLeadingBytes)
         {{0x11, 0xE0, 0x8A, 0xE0, 0x87, 0x00, 'z'}, true, {'\n', 'z'}}, {{0x15}, true, {}},
         {{0x08, 'a'}, false, {}}, {{0x0C, 'a'}, false, {}}, {{0x16, 'a'}, false, {}}, {{0x1F, 0x01, 'a'}, false, {}},
         {{0x10, 0x00, 0x0C, 'a'}, false, {}}, {{0x10, 0x01, 0x02, 'a'}, false, {}}, {{0x10, 0x00, 0x10}, false, {}},
-        {{0x10, 0x00}, false, {}}, {{}, false, {}},
+        {{0x10, 0x00}, false, {}}, {{}, false, {}}, {{}, false, {}, 2}, {{'a'}, false, {}, 0},
+        // Nothing behind the length is read: the next byte would complete the mark or the selector.
+        {{'a', 0xC2, 'e'}, true, {'a'}, 2}, {{0x10, 0x00, 0x01, 'a'}, false, {}, 2},
     };
+    TCUnicodeConverter converter(kZUMDefaultHandle);
     for (const Case& c : cases) {
         SCOPED_TRACE(testing::PrintToString(c.source));
-        unsigned short length = static_cast<unsigned short>(c.source.size());
+        Bytes source = c.source;
+        const unsigned short given = static_cast<unsigned short>(c.length < 0 ? source.size() : c.length);
+        unsigned short length = given;
         U16 out{'x'};
-        EXPECT_EQ(ToString(c.source, length, out), c.ok);
+        EXPECT_EQ(converter.ConvertToUnicode(source.empty() ? nullptr : source.data(), length, out, false, kNoLang,
+                                             true),
+                  c.ok);
         EXPECT_EQ(out, c.expected);
-        EXPECT_EQ(length, c.ok ? c.source.size() : 0);
+        EXPECT_EQ(length, c.ok ? given : 0);
     }
-    unsigned short length = 2;
-    U16 out;
-    EXPECT_FALSE(ToString({}, length, out)); // null source with a length
-    // Nothing behind the length is read: the next byte would complete the mark or the selector.
-    length = 2;
-    EXPECT_TRUE(ToString({'a', 0xC2, 'e'}, length, out));
-    EXPECT_EQ(out, U16{'a'});
-    length = 2;
-    EXPECT_FALSE(ToString({0x10, 0x00, 0x01, 'a'}, length, out));
-    length = 0;
-    EXPECT_FALSE(ToString({'a'}, length, out));
 }
 
 // Big-endian pairs cut after the last whole character that fits; nothing behind what was written is touched.

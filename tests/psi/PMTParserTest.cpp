@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <functional>
 #include <iterator>
 #include <map>
 #include <tuple>
@@ -69,11 +68,6 @@ TEST(PMTParser, ProgramsFilterAndInitialize)
               std::make_tuple(9, 2, 1, 0x02));
     EXPECT_EQ(program->PMTElementary(3), nullptr);
 
-    // The same section again: nothing new, no update.
-    EXPECT_FALSE(pmt.Parse(0x1000, s.data()));
-    EXPECT_FALSE(pmt.IsChannelListUpdateRequired());
-    EXPECT_EQ(program->NumOfElementary(), 3);
-
     // Instances are ordered by program number, whatever the order of arrival.
     EXPECT_TRUE(pmt.Parse(0x1003, Pmt({0x0300, 0, 0x0300, {}, {{0x03, 0x0301, {}}}}).data()));
     EXPECT_TRUE(pmt.Parse(0x1002, Pmt({0x0200, 0, 0x0200, {}, {{0x02, 0x0201, {}}}}).data()));
@@ -119,6 +113,7 @@ TEST(PMTParser, ChannelListUpdateFollowsStreamTypes)
         {"a PID changes", 1, 0, 0, {{0x02, 0x111, {}}, {0x03, 0x102, {}}}, true, false},
         {"descriptors change", 2, 0, 0, {{0x02, 0x111, Desc(0x52, {1})}, {0x03, 0x102, {}}}, true, false},
         {"two streams swap", 3, 0, 0, {{0x03, 0x102, {}}, {0x02, 0x111, {}}}, true, true},
+        {"the same section again", 3, 0, 0, {{0x03, 0x102, {}}, {0x02, 0x111, {}}}, false, false},
         {"identical list again", 4, 0, 0, {{0x03, 0x102, {}}, {0x02, 0x111, {}}}, true, false},
         {"ignored section changes nothing", 5, 2, 1, {{0x03, 0x102, {}}, {0x02, 0x111, {}}}, false, false},
         {"a stream is added", 5, 0, 0, {{0x03, 0x102, {}}, {0x02, 0x111, {}}, {0x06, 0x113, {}}}, true, true},
@@ -149,24 +144,21 @@ TEST(PMTParser, ChannelListUpdateFollowsStreamTypes)
 TEST(PMTParser, InnerLengthsAgainstTheSection)
 {
     zumtest::BinderScope binder;
-    auto build = [](const std::function<void(zumtest::SectionBuilder&)>& body) {
+    // The body behind the header: PCR_PID, program_info_length, ...
+    const auto section = [](const Bytes& body) {
         zumtest::SectionBuilder b(zumtest::LongHeader(0x02, 1));
-        body(b);
+        b.Raw(body);
         return b.Build();
     };
     struct Case { const char* name; Bytes section; Pairs streams; int lastEsInfoLength; std::string log; } cases[] = {
         {"program_info_length beyond the section",
-         build([](zumtest::SectionBuilder& b) { b.U16(0xE100).U16(0xF000 | 40).Raw(Desc(0x09, {1, 2})); }), {}, 0,
+         section(zumtest::Concat({{0xE1, 0x00, 0xF0, 40}, Desc(0x09, {1, 2})})), {}, 0,
          "TCPMTInstance::m_Parse, m_programInfoLength[40] Error"},
         {"ES_info_length passing the end is cut",
-         build([](zumtest::SectionBuilder& b) {
-             b.U16(0xE100).U16(0xF000).U8(0x02).U16(0xE101).U16(0xF000 | 30).Raw(Desc(0x52, {1}));
-         }),
+         section(zumtest::Concat({{0xE1, 0x00, 0xF0, 0x00, 0x02, 0xE1, 0x01, 0xF0, 30}, Desc(0x52, {1})})),
          {{0x02, 0x101}}, 3, ""},
-        {"fewer than five bytes in front of the CRC",
-         build([](zumtest::SectionBuilder& b) { b.U16(0xE100).U16(0xF000).U8(0x1B).U16(0xE1FF); }), {{0x1B, 0x1FF}},
-         -2, "[Warning] TCDescriptorBase::Parse total len is not correct!inLen=-2, outLen=0"},
-        {"no stream at all", build([](zumtest::SectionBuilder& b) { b.U16(0xE100).U16(0xF000); }), {}, 0, ""},
+        {"fewer than five bytes in front of the CRC", section({0xE1, 0x00, 0xF0, 0x00, 0x1B, 0xE1, 0xFF}),
+         {{0x1B, 0x1FF}}, -2, "[Warning] TCDescriptorBase::Parse total len is not correct!inLen=-2, outLen=0"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
@@ -211,8 +203,6 @@ TEST(PMTParser, RealCaptureSections)
         EXPECT_GT(program->NumOfElementary(), 0);
         // A well-formed broadcast section walks every loop to its announced end.
         EXPECT_FALSE(log.Contains("not correct")) << log.Lines().front();
-        for (const auto& stream : Streams(program))
-            EXPECT_LE(stream.second, 0x1FFF);
     }
     if (seen == 0)
         GTEST_SKIP() << "captures not present";

@@ -19,7 +19,7 @@ using zuminspect::kNoPid;
 using zuminspect::Router;
 using zumtest::Bytes;
 
-TEST(InspectText, Utf16ToUtf8)
+TEST(InspectText, Utf16TimesCodesAndUnreadableText)
 {
     const std::vector<std::pair<std::basic_string<unsigned short>, std::string>> cases = {
         {{'Z', 0xFC, 0x20AC}, "Z\xC3\xBC\xE2\x82\xAC"},
@@ -30,10 +30,6 @@ TEST(InspectText, Utf16ToUtf8)
     };
     for (const auto& c : cases)
         EXPECT_EQ(zuminspect::Utf16ToUtf8(c.first), c.second);
-}
-
-TEST(InspectText, TimesCodesAndUnreadableText)
-{
     EXPECT_EQ(zuminspect::IsoTimeSince1980(0), "1980-01-06T00:00:00Z");
     EXPECT_EQ(zuminspect::IsoTimeSince1980(86401), "1980-01-07T00:00:01Z");
     EXPECT_EQ(zuminspect::IsoTimeSince1980(0xFFFFFFFE), "2116-02-12T06:28:14Z");
@@ -86,53 +82,6 @@ TEST(InspectDescribers, FieldsForKnownClassesRawForTheRest)
 
 namespace {
 
-Bytes Pat(unsigned networkPid, unsigned programNumber, unsigned pmtPid)
-{
-    zumtest::SectionBuilder s(zumtest::LongHeader(0x00, 1));
-    s.U16(0).U16(0xE000 | networkPid).U16(programNumber).U16(0xE000 | pmtPid);
-    return s.Build();
-}
-
-} // namespace
-
-TEST(InspectRouter, SectionsGoWhereReceiverFiltersSendThem)
-{
-    zumtest::BinderScope binder;
-    Router router(kZUMDefaultHandle, false);
-    struct Case {
-        uint16_t pid;
-        uint8_t tableId;
-        const char* parser; // empty: no parser
-    };
-    const std::vector<Case> beforePat = {
-        {0x0000, 0x00, "TCPATParser"},    {0x0100, 0x02, ""},               {0x0012, 0x85, "TCDVBEITParser"},
-        {0x0030, 0x85, "TCDVBLCNParser"}, {kNoPid, 0x85, "TCDVBLCNParser"}, {kNoPid, 0x9F, "TCDVBEITParser"},
-        {0x0011, 0x4A, ""},               {0x0011, 0x46, "TCDVBSDTParser"}, {0x0012, 0x42, ""},
-        {0x0014, 0x73, "TCDVBTOTParser"}, {0x0020, 0x41, ""},               {0x0012, 0x70, ""},
-    };
-    for (const Case& c : beforePat)
-        EXPECT_EQ(router.ParserName(c.pid, c.tableId), c.parser) << c.pid << " " << int(c.tableId);
-    EXPECT_FALSE(router.Wants(0x0100));
-
-    const Bytes pat = Pat(0x0020, 5, 0x0100);
-    router.OnSection(0x0000, pat.data(), pat.size());
-    EXPECT_TRUE(router.Wants(0x0100));
-    EXPECT_TRUE(router.Wants(0x0020));
-    EXPECT_FALSE(router.Wants(0x0101));
-    EXPECT_EQ(router.ParserName(0x0100, 0x02), "TCPMTParser");
-    EXPECT_EQ(router.ParserName(0x0020, 0x41), "TCDVBNITParser");
-    EXPECT_EQ(router.ParserName(0x0101, 0x02), "");
-    EXPECT_EQ(router.Complete(0x0000, 0x00), true);
-    EXPECT_EQ(router.Complete(0x0100, 0x02), false); // no PMT yet
-    EXPECT_EQ(router.Complete(0x0011, 0x4A), std::nullopt);
-
-    Router everything(kZUMDefaultHandle, true);
-    EXPECT_TRUE(everything.Wants(0x1234));
-    EXPECT_EQ(everything.ParserName(0x1234, 0x02), "TCPMTParser");
-}
-
-namespace {
-
 // An EIT p/f section of service 1 with one event per entry of `eventIds`.
 Bytes Eit(unsigned version, unsigned section, const std::vector<unsigned>& eventIds)
 {
@@ -154,10 +103,43 @@ std::vector<unsigned> EventIds(const Router& router)
 
 } // namespace
 
-TEST(InspectRouter, EventsFollowTheVersionOfTheirSections)
+TEST(InspectRouter, RoutesLikeReceiverFiltersAndKeepsEventsOfTheCurrentVersion)
 {
     zumtest::BinderScope binder;
     Router router(kZUMDefaultHandle, false);
+    struct Case {
+        uint16_t pid;
+        uint8_t tableId;
+        const char* parser; // empty: no parser
+    };
+    const std::vector<Case> beforePat = {
+        {0x0000, 0x00, "TCPATParser"},    {0x0100, 0x02, ""},               {0x0012, 0x85, "TCDVBEITParser"},
+        {0x0030, 0x85, "TCDVBLCNParser"}, {kNoPid, 0x85, "TCDVBLCNParser"}, {kNoPid, 0x9F, "TCDVBEITParser"},
+        {0x0011, 0x4A, ""},               {0x0011, 0x46, "TCDVBSDTParser"}, {0x0012, 0x42, ""},
+        {0x0014, 0x73, "TCDVBTOTParser"}, {0x0020, 0x41, ""},               {0x0012, 0x70, ""},
+    };
+    for (const Case& c : beforePat)
+        EXPECT_EQ(router.ParserName(c.pid, c.tableId), c.parser) << c.pid << " " << int(c.tableId);
+    EXPECT_FALSE(router.Wants(0x0100));
+
+    zumtest::SectionBuilder pat(zumtest::LongHeader(0x00, 1)); // network PID 0x0020, program 5 on 0x0100
+    pat.U16(0).U16(0xE020).U16(5).U16(0xE100);
+    const Bytes patSection = pat.Build();
+    router.OnSection(0x0000, patSection.data(), patSection.size());
+    EXPECT_TRUE(router.Wants(0x0100));
+    EXPECT_TRUE(router.Wants(0x0020));
+    EXPECT_FALSE(router.Wants(0x0101));
+    EXPECT_EQ(router.ParserName(0x0100, 0x02), "TCPMTParser");
+    EXPECT_EQ(router.ParserName(0x0020, 0x41), "TCDVBNITParser");
+    EXPECT_EQ(router.ParserName(0x0101, 0x02), "");
+    EXPECT_EQ(router.Complete(0x0000, 0x00), true);
+    EXPECT_EQ(router.Complete(0x0100, 0x02), false); // no PMT yet
+    EXPECT_EQ(router.Complete(0x0011, 0x4A), std::nullopt);
+
+    Router everything(kZUMDefaultHandle, true);
+    EXPECT_TRUE(everything.Wants(0x1234));
+    EXPECT_EQ(everything.ParserName(0x1234, 0x02), "TCPMTParser");
+
     const auto feed = [&](const Bytes& s) { router.OnSection(0x0012, s.data(), s.size()); };
     feed(Eit(1, 0, {10}));
     feed(Eit(1, 1, {11, 12}));
@@ -171,5 +153,5 @@ TEST(InspectRouter, EventsFollowTheVersionOfTheirSections)
     ASSERT_EQ(events.size(), 1u);
     EXPECT_EQ(events.begin()->first, std::make_tuple(uint16_t{3}, uint16_t{2}, uint16_t{1}));
     EXPECT_EQ(events.begin()->second.front()->duration, 3600u);
-    EXPECT_EQ(router.Routed(), 4u);
+    EXPECT_EQ(router.Routed(), 5u); // the PAT and the EIT sections
 }
