@@ -170,6 +170,11 @@ TEST(DescriptorHash, ByTagByArrivalAndOwnership)
     EXPECT_FALSE(empty.GetDescriptor(&untouched));
     EXPECT_EQ(untouched.size(), 1u);
     EXPECT_FALSE(copy == empty);
+    // Same count, one byte apart in the last descriptor.
+    TCDescriptorHash differs;
+    for (const Bytes& raw : {Desc(0x48, {1, 2}), Desc(0x4D, {2}), Desc(0x48, {4})})
+        differs.Add(Decoded(raw));
+    EXPECT_FALSE(copy == differs);
     zumtest::LogCapture log;
     EXPECT_FALSE(copy.GetDescriptor(nullptr));
     EXPECT_TRUE(log.Contains("Failed: pDesc"));
