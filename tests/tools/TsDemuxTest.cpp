@@ -71,15 +71,16 @@ Delivered On(uint16_t pid, const std::vector<Bytes>& sections)
 }
 
 // One packet by hand: an adaptation field of `adaptationLength` bytes (none if
-// negative), then `payload`, then 0xFF up to 188 bytes.
-Bytes Packet(uint16_t pid, bool unitStart, unsigned cc, const Bytes& payload, int adaptationLength = -1)
+// negative) whose flags byte is `flags`, then `payload`, then 0xFF up to 188 bytes.
+Bytes Packet(uint16_t pid, bool unitStart, unsigned cc, const Bytes& payload, int adaptationLength = -1,
+             uint8_t flags = 0x00)
 {
     Bytes p{0x47, static_cast<uint8_t>((unitStart ? 0x40 : 0) | (pid >> 8)), static_cast<uint8_t>(pid),
             static_cast<uint8_t>((adaptationLength >= 0 ? 0x30 : 0x10) | (cc & 0x0F))};
     if (adaptationLength >= 0) {
         p.push_back(static_cast<uint8_t>(adaptationLength));
         if (adaptationLength > 0) {
-            p.push_back(0x00); // no flags
+            p.push_back(flags);
             p.insert(p.end(), static_cast<size_t>(adaptationLength - 1), 0xFF);
         }
     }
@@ -261,6 +262,18 @@ TEST(TsDemux, BrokenStreamDropsOnlyTheSectionInProgress)
             EXPECT_EQ(r.stats.truncatedPackets, c.truncated);
             EXPECT_EQ(r.stats.unfinishedSections, c.truncated); // b was in progress
         }
+    }
+}
+
+TEST(TsDemux, SignalledDiscontinuityIsNoContinuityError)
+{
+    const Bytes a = Section(0x42, 1, 20), b = Section(0x42, 2, 20);
+    for (uint8_t flags : {0x80, 0x00}) { // discontinuity_indicator set, then clear
+        SCOPED_TRACE(int(flags));
+        const Result r = Demux(Concat({Packet(0x11, true, 3, Concat({{0x00}, a})),
+                                       Packet(0x11, true, 9, Concat({{0x00}, b}), 1, flags)}));
+        EXPECT_EQ(r.sections, On(0x11, {a, b}));
+        EXPECT_EQ(r.stats.continuityErrors, flags ? 0u : 1u);
     }
 }
 
