@@ -63,7 +63,8 @@ TTTextTable SelectTable(const unsigned char* text, size_t length, ELanguageCode 
     case 0x13:
         return IconvTable("GB2312", 1);
     case 0x14:
-        return IconvTable("BIG5", 1);
+        // "Big5 subset of ISO/IEC 10646" names the repertoire; the bytes are 10646's two-byte form.
+        return IconvTable("UTF-16BE", 1, 2);
     case 0x15:
         return IconvTable("UTF-8", 1);
     default:
