@@ -232,6 +232,8 @@ TEST(TsDemux, BrokenStreamDropsOnlyTheSectionInProgress)
     changed[100] ^= 0x01;
     Bytes transportError = packet(1);
     transportError[1] |= 0x80;
+    Bytes corruptCounter = transportError;
+    corruptCounter[3] ^= 0x08;
     const Bytes head = Slice(ts, 0, 376), rest = Slice(ts, 376, ts.size());
     struct Case {
         const char* name;
@@ -242,6 +244,7 @@ TEST(TsDemux, BrokenStreamDropsOnlyTheSectionInProgress)
     const std::vector<Case> cases = {
         {"lost packet", Concat({packet(0), rest}), {x, b}, 1, 0, 0, 1, 0},
         {"transport error", Concat({packet(0), transportError, rest}), {x, b}, 0, 1, 0, 1, 0},
+        {"transport error, counter corrupt", Concat({packet(0), corruptCounter, rest}), {x, b}, 0, 1, 0, 1, 0},
         {"packet sent twice", Concat({head, packet(1), rest}), {x, a, b}, 0, 0, 1, 0, 0},
         {"packet sent three times", Concat({head, packet(1), packet(1), rest}), {x, b}, 1, 0, 1, 1, 0},
         {"same counter, other bytes", Concat({head, changed, rest}), {x, b}, 1, 0, 0, 1, 0},

@@ -245,7 +245,8 @@ void TsDemux::m_Packet(const uint8_t* packet)
         }
     }
     state.duplicateSeen = duplicate;
-    state.lastCc = cc;
+    // A packet flagged in error may carry a corrupt counter: the next one sets the reference.
+    state.lastCc = transportError ? -1 : cc;
     std::memcpy(state.lastPacket.data(), packet, kPacketSize);
     // Inside a section a repeated packet would add its bytes twice; otherwise
     // it only repeats whole sections or a start, which are safe to take again.
