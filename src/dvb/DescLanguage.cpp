@@ -2,18 +2,7 @@
 
 #include "../core/ByteReader.h"
 #include "../core/Diagnostics.h"
-
-namespace {
-
-template <class Record>
-const Record* At(const std::vector<Record>& records, int index)
-{
-    if (index < 0 || index >= static_cast<int>(records.size()))
-        return nullptr;
-    return &records[static_cast<size_t>(index)];
-}
-
-} // namespace
+#include "../core/RecordAt.h"
 
 // ---------------------------------------------------------------- language
 
@@ -94,33 +83,24 @@ int TCDescTeletext::t_Parse(const unsigned char* payload, unsigned char length)
     return m_pages.empty() ? length : reader.Consumed();
 }
 
-const TCDescTeletext::TTPage* TCDescTeletext::m_Page(int index) const
-{
-    return At(m_pages, index);
-}
-
 unsigned int TCDescTeletext::Iso639LangCode(int index) const
 {
-    const TTPage* page = m_Page(index);
-    return page ? page->language : 0;
+    return FieldAt(m_pages, index, &TTPage::language);
 }
 
 unsigned char TCDescTeletext::TeletextType(int index) const
 {
-    const TTPage* page = m_Page(index);
-    return page ? page->type : 0;
+    return FieldAt(m_pages, index, &TTPage::type);
 }
 
 unsigned char TCDescTeletext::TeletextMagzineNumber(int index) const
 {
-    const TTPage* page = m_Page(index);
-    return page ? page->magazine : 0;
+    return FieldAt(m_pages, index, &TTPage::magazine);
 }
 
 unsigned char TCDescTeletext::TeletextPageNumber(int index) const
 {
-    const TTPage* page = m_Page(index);
-    return page ? page->page : 0;
+    return FieldAt(m_pages, index, &TTPage::page);
 }
 
 // ---------------------------------------------------------------- subtitling
@@ -158,31 +138,22 @@ int TCDescSubtitling::t_Parse(const unsigned char* payload, unsigned char length
     return reader.Consumed();
 }
 
-const TCDescSubtitling::TTSubtitle* TCDescSubtitling::m_Subtitle(int index) const
-{
-    return At(m_subtitles, index);
-}
-
 unsigned int TCDescSubtitling::Iso639LangCode(int index) const
 {
-    const TTSubtitle* subtitle = m_Subtitle(index);
-    return subtitle ? subtitle->language : 0;
+    return FieldAt(m_subtitles, index, &TTSubtitle::language);
 }
 
 unsigned char TCDescSubtitling::SubtitlingType(int index) const
 {
-    const TTSubtitle* subtitle = m_Subtitle(index);
-    return subtitle ? subtitle->type : 0;
+    return FieldAt(m_subtitles, index, &TTSubtitle::type);
 }
 
 unsigned short TCDescSubtitling::CompositionPageId(int index) const
 {
-    const TTSubtitle* subtitle = m_Subtitle(index);
-    return subtitle ? subtitle->compositionPageId : 0;
+    return FieldAt(m_subtitles, index, &TTSubtitle::compositionPageId);
 }
 
 unsigned short TCDescSubtitling::AncillaryPageId(int index) const
 {
-    const TTSubtitle* subtitle = m_Subtitle(index);
-    return subtitle ? subtitle->ancillaryPageId : 0;
+    return FieldAt(m_subtitles, index, &TTSubtitle::ancillaryPageId);
 }

@@ -61,8 +61,6 @@ private:
         unsigned char magazine;
         unsigned char page;
     };
-    const TTPage* m_Page(int index) const;
-
     std::vector<TTPage> m_pages;
 };
 
@@ -91,8 +89,6 @@ private:
         unsigned short compositionPageId;
         unsigned short ancillaryPageId;
     };
-    const TTSubtitle* m_Subtitle(int index) const;
-
     std::vector<TTSubtitle> m_subtitles;
 };
 

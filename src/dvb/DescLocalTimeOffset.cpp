@@ -1,5 +1,6 @@
 #include "DescLocalTimeOffset.h"
 
+#include "../core/RecordAt.h"
 #include "BcdDigits.h"
 
 namespace {
@@ -26,47 +27,34 @@ TCBaseDesc* TCDescLocalTimeOffset::Fork() const
     return t_ForkAs(new TCDescLocalTimeOffset());
 }
 
-const TTLocalTimeOffset* TCDescLocalTimeOffset::m_Entry(int index) const
-{
-    if (index < 0 || index >= NumOfEntries())
-        return nullptr;
-    return &m_entries[static_cast<size_t>(index)];
-}
-
 unsigned int TCDescLocalTimeOffset::CountryCode(int index) const
 {
-    const TTLocalTimeOffset* e = m_Entry(index);
-    return e ? e->countryCode : 0;
+    return FieldAt(m_entries, index, &TTLocalTimeOffset::countryCode);
 }
 
 unsigned char TCDescLocalTimeOffset::CountryRegionId(int index) const
 {
-    const TTLocalTimeOffset* e = m_Entry(index);
-    return e ? e->countryRegionId : 0;
+    return FieldAt(m_entries, index, &TTLocalTimeOffset::countryRegionId);
 }
 
 unsigned char TCDescLocalTimeOffset::LocalTimeOffsetPolarity(int index) const
 {
-    const TTLocalTimeOffset* e = m_Entry(index);
-    return e ? e->localTimeOffsetPolarity : 0;
+    return FieldAt(m_entries, index, &TTLocalTimeOffset::localTimeOffsetPolarity);
 }
 
 int TCDescLocalTimeOffset::LocalTimeOffset(int index) const
 {
-    const TTLocalTimeOffset* e = m_Entry(index);
-    return e ? e->localTimeOffset : 0;
+    return FieldAt(m_entries, index, &TTLocalTimeOffset::localTimeOffset);
 }
 
 unsigned int TCDescLocalTimeOffset::TimeOfChange(int index) const
 {
-    const TTLocalTimeOffset* e = m_Entry(index);
-    return e ? e->timeOfChange : 0;
+    return FieldAt(m_entries, index, &TTLocalTimeOffset::timeOfChange);
 }
 
 int TCDescLocalTimeOffset::NextTimeOffset(int index) const
 {
-    const TTLocalTimeOffset* e = m_Entry(index);
-    return e ? e->nextTimeOffset : 0;
+    return FieldAt(m_entries, index, &TTLocalTimeOffset::nextTimeOffset);
 }
 
 unsigned int TCDescLocalTimeOffset::ConvertDVBtimetoATSCtime(const unsigned char* data)

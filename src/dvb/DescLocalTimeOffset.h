@@ -46,8 +46,6 @@ protected:
     int t_Parse(const unsigned char* payload, unsigned char length) override;
 
 private:
-    const TTLocalTimeOffset* m_Entry(int index) const;
-
     std::vector<TTLocalTimeOffset> m_entries;
 };
 

@@ -5,6 +5,7 @@
 #include "../core/ByteReader.h"
 #include "../core/CompareISO8859Char.h"
 #include "../core/Diagnostics.h"
+#include "../core/RecordAt.h"
 #include "DescText.h"
 
 namespace {
@@ -23,14 +24,6 @@ int ParseRecords(TCByteReader& reader, std::vector<Record>& records)
             break;
     }
     return reader.Consumed();
-}
-
-template <class Record>
-const Record* RecordAt(const std::vector<Record>& records, int index)
-{
-    if (index < 0 || index >= static_cast<int>(records.size()))
-        return nullptr;
-    return &records[static_cast<size_t>(index)];
 }
 
 // Copies of the service names: a cut text still answers true, and an empty

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "../core/RecordAt.h"
 #include "BcdDigits.h"
 
 namespace {
@@ -160,9 +161,8 @@ TCBaseDesc* TCDescFrequencyList::Fork() const
 
 float TCDescFrequencyList::CentreFrequency(int index) const
 {
-    if (index < 0 || index >= NumOfEntries())
-        return 0.0f;
-    return m_centreFrequencies[static_cast<size_t>(index)];
+    const float* frequency = RecordAt(m_centreFrequencies, index);
+    return frequency ? *frequency : 0.0f;
 }
 
 int TCDescFrequencyList::t_Parse(const unsigned char* payload, unsigned char length)

@@ -4,6 +4,7 @@
 
 #include "../core/ByteReader.h"
 #include "../core/Diagnostics.h"
+#include "../core/RecordAt.h"
 #include "DescText.h"
 
 namespace {
@@ -134,21 +135,12 @@ int TCDescServiceList::t_Parse(const unsigned char* payload, unsigned char lengt
     return reader.Consumed();
 }
 
-const TCDescServiceList::TTEntry* TCDescServiceList::m_Entry(int index) const
-{
-    if (index < 0 || index >= m_numberOfLoop)
-        return nullptr;
-    return &m_entries[static_cast<size_t>(index)];
-}
-
 unsigned short TCDescServiceList::ServiceId(int index) const
 {
-    const TTEntry* entry = m_Entry(index);
-    return entry ? entry->serviceId : 0xFFFF;
+    return FieldAt(m_entries, index, &TTEntry::serviceId, 0xFFFF);
 }
 
 unsigned char TCDescServiceList::ServiceType(int index) const
 {
-    const TTEntry* entry = m_Entry(index);
-    return entry ? entry->serviceType : 0xFF;
+    return FieldAt(m_entries, index, &TTEntry::serviceType, 0xFF);
 }

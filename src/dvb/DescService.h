@@ -56,8 +56,6 @@ private:
         unsigned short serviceId;
         unsigned char serviceType;
     };
-    const TTEntry* m_Entry(int index) const;
-
     int m_numberOfLoop = 0;
     std::vector<TTEntry> m_entries;
 };
