@@ -4,6 +4,7 @@
 // Internal: the decoded records of a descriptor by the signed index that its
 // accessors take, so that an index outside the list answers a fixed value.
 
+#include <cstddef>
 #include <type_traits>
 #include <vector>
 
@@ -12,7 +13,7 @@ const Record* RecordAt(const std::vector<Record>& records, int index)
 {
     if (index < 0 || index >= static_cast<int>(records.size()))
         return nullptr;
-    return &records[static_cast<size_t>(index)];
+    return &records[static_cast<std::size_t>(index)];
 }
 
 // One field of the record at `index`; `none` when there is no such record.
