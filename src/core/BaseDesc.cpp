@@ -6,7 +6,19 @@
 
 TCBaseDesc::TCBaseDesc(int tag) : m_tag(tag) {}
 
-TCBaseDesc::~TCBaseDesc() = default;
+TCBaseDesc::~TCBaseDesc()
+{
+    m_FreeRaw();
+}
+
+void TCBaseDesc::m_FreeRaw()
+{
+    if (m_ownsRaw)
+        delete[] m_pRaw;
+    m_pRaw = nullptr;
+    m_ownsRaw = false;
+    m_rawLength = 0;
+}
 
 int TCBaseDesc::Tag() const
 {
@@ -27,18 +39,32 @@ int TCBaseDesc::Parse(const unsigned char* data)
 {
     if (!data)
         return 0;
-    m_pRaw.reset();
-    m_rawLength = 0;
+    m_FreeRaw();
     m_length = data[1];
     if (m_length == 0)
         return 2;
-
     m_rawLength = m_length + 2;
-    m_pRaw.reset(new unsigned char[m_rawLength]);
-    std::memcpy(m_pRaw.get(), data, static_cast<size_t>(m_rawLength));
+    unsigned char* copy = new unsigned char[static_cast<size_t>(m_rawLength)];
+    std::memcpy(copy, data, static_cast<size_t>(m_rawLength));
+    m_pRaw = copy;
+    m_ownsRaw = true;
+    return m_Decode();
+}
 
-    const unsigned char* payload = m_pRaw.get() + 2;
-    const int consumed = t_Parse(payload, m_length);
+int TCBaseDesc::m_ParseInPlace(const unsigned char* data)
+{
+    m_FreeRaw();
+    m_length = data[1];
+    if (m_length == 0)
+        return 2;
+    m_rawLength = m_length + 2;
+    m_pRaw = data;
+    return m_Decode();
+}
+
+int TCBaseDesc::m_Decode()
+{
+    const int consumed = t_Parse(m_pRaw + 2, m_length);
     if (consumed != m_length)
         ZUM_LOGD("[Warning] Descriptor[0x%x] length mismatch!inLen=%d, outLen=%d", Tag(), m_length, consumed);
     return m_length + 2;
@@ -56,7 +82,7 @@ bool TCBaseDesc::GetDescriptor(unsigned char* pBuff, int* size) const
     }
     if (m_rawLength > *size)
         return false;
-    std::memcpy(pBuff, m_pRaw.get(), static_cast<size_t>(m_rawLength));
+    std::memcpy(pBuff, m_pRaw, static_cast<size_t>(m_rawLength));
     *size = m_rawLength;
     return true;
 }
@@ -70,7 +96,7 @@ bool TCBaseDesc::FlagEqual(const TCBaseDesc* pInDesc) const
         return false;
     if (!m_pRaw || !other->m_pRaw)
         return true;
-    return std::memcmp(m_pRaw.get(), other->m_pRaw.get(), static_cast<size_t>(m_rawLength)) == 0;
+    return std::memcmp(m_pRaw, other->m_pRaw, static_cast<size_t>(m_rawLength)) == 0;
 }
 
 TCDescDefault::TCDescDefault(int tag) : TCBaseDesc(tag) {}

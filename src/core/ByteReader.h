@@ -1,7 +1,19 @@
 #ifndef ZUM_CORE_BYTEREADER_H
 #define ZUM_CORE_BYTEREADER_H
 
-// Internal: a big-endian reader bounded by the length it was given. A read
+// Internal: big-endian numbers, read once here for every table and descriptor.
+inline unsigned int ReadBE16(const unsigned char* p)
+{
+    return (static_cast<unsigned int>(p[0]) << 8) | p[1];
+}
+
+inline unsigned int ReadBE32(const unsigned char* p)
+{
+    return (static_cast<unsigned int>(p[0]) << 24) | (static_cast<unsigned int>(p[1]) << 16) |
+           (static_cast<unsigned int>(p[2]) << 8) | p[3];
+}
+
+// A big-endian reader bounded by the length it was given. A read
 // that does not fit answers 0, moves nothing and marks the reader short, so
 // that a decoder can stop where its body ends and keep what it got.
 class TCByteReader {

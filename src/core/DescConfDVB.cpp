@@ -13,6 +13,7 @@
 #include "../dvb/DescShortEvent.h"
 #include "../dvb/DescLocalTimeOffset.h"
 #include "../dvb/DescSatelliteDeliverySystem.h"
+#include "../operators/DescDishTVGenre.h"
 #include "../operators/DescLogicalChannel.h"
 #include "../operators/DescLogicalChannelV2.h"
 #include "Diagnostics.h"
@@ -41,8 +42,7 @@ TCBaseDesc* TCDescConfDVB::NewDescriptor(int tag, const unsigned char* data, uns
     case 0x4D: return new TCDescShortEvent();
     case 0x4E: return new TCDescExtendedEvent();
     case 0x50: return new TCDescComponent(0);
-    // The Dish TV genre class is not decoded yet: its specifier keeps the raw bytes.
-    case 0x54: return pds == 0xECCA0001 ? static_cast<TCBaseDesc*>(new TCDescDefault(0x54)) : new TCDescContent();
+    case 0x54: return pds == 0xECCA0001 ? static_cast<TCBaseDesc*>(new TCDescDishTVGenre()) : new TCDescContent();
     case 0x55: return new TCDescParentalRating();
     case 0x58: return new TCDescLocalTimeOffset();
     case 0x5A: return new TCDescTerrestrialDeliverySystem();
@@ -166,7 +166,14 @@ TCBaseDesc* TCDescConfDVB::m_NewRCSPrivateDesc(int tag, unsigned int pds)
     default: return t_NewDefaultPrivateDesc(tag, pds);
     }
 }
-TCBaseDesc* TCDescConfDVB::m_NewFransatPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewFransatPrivateDesc(int tag, unsigned int pds)
+{
+    switch (tag) {
+    // This specifier's own channel number format: kept raw until its class decodes it.
+    case 0x83: return new TCDescDefault(0x83);
+    default: return t_NewDefaultPrivateDesc(tag, pds);
+    }
+}
 TCBaseDesc* TCDescConfDVB::m_NewDbookPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {
@@ -200,10 +207,19 @@ TCBaseDesc* TCDescConfDVB::m_NewDigiturkPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {
     case 0x81: return new TCDescLogicalChannel(0x81, pds);
+    // Digiturk's own channel number format: kept raw until its class decodes it.
+    case 0x83: return new TCDescDefault(0x83);
     default: return t_NewDefaultPrivateDesc(tag, pds);
     }
 }
-TCBaseDesc* TCDescConfDVB::m_NewTelekartaPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewTelekartaPrivateDesc(int tag, unsigned int pds)
+{
+    switch (tag) {
+    // This specifier's own channel number format: kept raw until its class decodes it.
+    case 0x83: return new TCDescDefault(0x83);
+    default: return t_NewDefaultPrivateDesc(tag, pds);
+    }
+}
 TCBaseDesc* TCDescConfDVB::m_NewTricolorPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {

@@ -1,28 +1,26 @@
 #include "Descriptor.h"
 
-#include <typeinfo>
+#include <climits>
+#include <cstring>
 
 #include <zum-platform/Binder.h>
 
 #include "../dvb/DescContent.h"
+#include "../operators/DescDishTVGenre.h"
 
 #include "DescConfDS.h"
 #include "DescConfDVB.h"
 #include "DescConfPSIBase.h"
 #include "DescConfPSIP.h"
+#include "ByteReader.h"
 #include "Diagnostics.h"
 
 namespace {
 
 constexpr unsigned int kNoSpecifier = 0xFFFFFFFF;
-constexpr unsigned int kSpecifierEacem = 0x000022C6; // stored as a descriptor of its own
+// The one specifier whose own descriptor is stored in the loop.
+constexpr unsigned int kSpecifierKeptInLoop = 0x000022C6;
 constexpr unsigned int kSpecifierFreesat = 0x46534154; // "FSAT"
-
-unsigned int ReadBE32(const unsigned char* p)
-{
-    return (static_cast<unsigned int>(p[0]) << 24) | (static_cast<unsigned int>(p[1]) << 16) |
-           (static_cast<unsigned int>(p[2]) << 8) | static_cast<unsigned int>(p[3]);
-}
 
 } // namespace
 
@@ -58,13 +56,26 @@ bool TCDescriptorBase::SetCachedPDSD(unsigned int pds)
     return true;
 }
 
+TCDescConfBase* TCDescriptorBase::m_Conf(unsigned char tableId)
+{
+    if (m_confTableId != tableId || !m_pConf) {
+        m_pConf.reset(t_GetDescConf(tableId));
+        m_confTableId = tableId;
+    }
+    return m_pConf.get();
+}
+
 int TCDescriptorBase::Parse(const unsigned char* data, int length, TCDescriptorHash& hash, unsigned char tableId)
 {
     t_InitParse();
-    std::unique_ptr<TCDescConfBase> conf(t_GetDescConf(tableId));
+    TCDescConfBase* conf = m_Conf(tableId);
     if (!conf)
         return 0;
 
+    // The loop's bytes from the first decoded descriptor on, copied once into
+    // the hash's block: the objects' raw copies live there.
+    const unsigned char* kept = nullptr;
+    int keptFrom = 0;
     int consumed = 0;
     while (data && consumed < length) {
         // A length byte behind the loop's end cannot be read: stop before it.
@@ -72,32 +83,43 @@ int TCDescriptorBase::Parse(const unsigned char* data, int length, TCDescriptorH
             break;
         const int tag = data[0];
         const int size = data[1] + 2;
-        // A descriptor that runs over the loop ends it; nothing of it is read,
-        // so neither hooks nor factory look past the loop.
-        if (consumed + size > length) {
-            consumed += size;
-            break;
+        m_loopLeft = length - consumed;
+
+        // A descriptor that runs over the loop still meets the hooks and the
+        // factory; they see its bytes up to the loop's end and zeros after.
+        unsigned char padded[257];
+        const unsigned char* seen = data;
+        if (size > m_loopLeft) {
+            std::memcpy(padded, data, static_cast<size_t>(m_loopLeft));
+            std::memset(padded + m_loopLeft, 0, sizeof(padded) - static_cast<size_t>(m_loopLeft));
+            seen = padded;
         }
 
         unsigned int pds = kNoSpecifier;
-        TCBaseDesc* desc = nullptr;
-        if (t_CheckAddingDesc(tag, data, pds))
-            desc = conf->NewDescriptor(tag, data, pds);
+        std::unique_ptr<TCBaseDesc> desc;
+        if (t_CheckAddingDesc(tag, seen, pds))
+            desc.reset(conf->NewDescriptor(tag, seen, pds));
         if (!desc) {
             data += size;
             consumed += size;
             continue;
         }
+        if (size > m_loopLeft) {
+            consumed += size;
+            break;
+        }
 
-        const int n = desc->Parse(data);
-        t_SetTableId(desc, tableId);
+        if (!kept) {
+            kept = hash.m_KeepBytes(data, length - consumed);
+            keptFrom = consumed;
+        }
+        const int n = desc->m_ParseInPlace(kept + (consumed - keptFrom));
+        t_SetTableId(desc.get(), tableId);
         if (m_cachedPDSD != kNoSpecifier)
             pds = m_cachedPDSD;
-        t_SetPDSOnCRIDDescriptor(desc, pds);
-        if (!t_checkContentDescriptor(desc, pds) || !t_CheckLinkageDescriptor(desc, pds))
-            delete desc;
-        else
-            hash.Add(desc);
+        t_SetPDSOnCRIDDescriptor(desc.get(), pds);
+        if (t_checkContentDescriptor(desc.get(), pds) && t_CheckLinkageDescriptor(desc.get(), pds))
+            hash.Add(desc.release());
         data += n;
         consumed += n;
     }
@@ -108,23 +130,37 @@ int TCDescriptorBase::Parse(const unsigned char* data, int length, TCDescriptorH
 }
 
 int TCDescriptorBase::ParseByCount(const unsigned char* data, int count, TCDescriptorHash& hash,
+                                   unsigned char tableId)
+{
+    return ParseByCount(data, count, hash, tableId, INT_MAX);
+}
+
+int TCDescriptorBase::ParseByCount(const unsigned char* data, int count, TCDescriptorHash& hash,
                                    unsigned char tableId, int limit)
 {
-    std::unique_ptr<TCDescConfBase> conf(t_GetDescConf(tableId));
-    if (!conf)
+    TCDescConfBase* conf = m_Conf(tableId);
+    if (!conf || !data)
         return 0;
-    int walked = 0;
-    for (int i = 0; data && i < count; ++i) {
-        if (limit - walked < 2 || data[1] + 2 > limit - walked)
+    // The bytes of the descriptors to walk, to copy them once.
+    int span = 0;
+    int walkable = 0;
+    for (; walkable < count; ++walkable) {
+        if (limit - span < 2 || data[span + 1] + 2 > limit - span)
             break;
-        TCBaseDesc* desc = conf->NewDescriptor(data[0], data, 0);
+        span += data[span + 1] + 2;
+    }
+    const unsigned char* kept = walkable > 0 ? hash.m_KeepBytes(data, span) : nullptr;
+    int walked = 0;
+    for (int i = 0; i < walkable; ++i) {
+        const unsigned char* at = kept + walked;
+        std::unique_ptr<TCBaseDesc> desc(conf->NewDescriptor(at[0], at, 0));
         if (!desc)
-            desc = new TCDescDefault(data[0]);
+            desc = std::make_unique<TCDescDefault>(at[0]);
         // Added before it is decoded, so an extension descriptor files under -1.
-        hash.Add(desc);
-        const int n = desc->Parse(data);
-        t_SetTableId(desc, tableId);
-        data += n;
+        TCBaseDesc* added = desc.get();
+        hash.Add(desc.release());
+        const int n = added->m_ParseInPlace(at);
+        t_SetTableId(added, tableId);
         walked += n;
     }
     return walked;
@@ -143,7 +179,7 @@ bool TCDescriptorDVB::t_CheckAddingDesc(int tag, const unsigned char* data, unsi
     if (tag == 0x5F) {
         // A body too short to hold a specifier names none.
         m_currentPDS = data[1] >= 4 ? ReadBE32(data + 2) : 0;
-        if (m_currentPDS == kSpecifierEacem) {
+        if (m_currentPDS == kSpecifierKeptInLoop) {
             pds = m_currentPDS;
             return true;
         }
@@ -170,7 +206,7 @@ bool TCDescriptorDVB::t_SetPDSOnCRIDDescriptor(TCBaseDesc* desc, unsigned int /*
 {
     if (desc->Tag() != 0x76)
         return true;
-    // The content identifier class stores the specifier once it decodes.
+    // No class of tag 0x76 decodes yet, so the cast to the content identifier fails.
     return false;
 }
 
@@ -186,8 +222,7 @@ bool TCDescriptorDVB::t_checkContentDescriptor(TCBaseDesc* desc, unsigned int pd
             content->SetPDSD(pds);
         return true;
     }
-    // The Dish TV genre row still answers a plain default object; any other class is wrong here.
-    return typeid(*desc) == typeid(TCDescDefault);
+    return dynamic_cast<TCDescDishTVGenre*>(desc) != nullptr;
 }
 
 bool TCDescriptorDVB::t_CheckLinkageDescriptor(TCBaseDesc* desc, unsigned int /*pds*/)
@@ -288,17 +323,17 @@ TCDescriptor::TCDescriptor(const ZUMHandle& handle) : m_handle(handle)
         return;
     const ECountryCode country = pBinder->GetCountryCode(handle);
     if (country == ZumPackCode('K', 'O', 'R'))
-        m_pImp.reset(new TCDescriptorKR());
+        m_pImp = &m_imp.emplace<TCDescriptorKR>();
     else if (country == ZumPackCode('J', 'P', 'N'))
-        m_pImp.reset(new TCDescriptorJPN(handle));
+        m_pImp = &m_imp.emplace<TCDescriptorJPN>(handle);
     else if (country == ZumPackCode('U', 'S', 'A'))
-        m_pImp.reset(new TCDescriptorATSC());
+        m_pImp = &m_imp.emplace<TCDescriptorATSC>();
     else if (IsISDBCountry(country))
-        m_pImp.reset(new TCDescriptorISDB(handle));
+        m_pImp = &m_imp.emplace<TCDescriptorISDB>(handle);
     else if (country == ZumPackCode('P', 'H', 'L') && pBinder->GetOperator(handle) == 113)
-        m_pImp.reset(new TCDescriptorISDB(handle));
+        m_pImp = &m_imp.emplace<TCDescriptorISDB>(handle);
     else
-        m_pImp.reset(new TCDescriptorDVB(handle));
+        m_pImp = &m_imp.emplace<TCDescriptorDVB>(handle);
 }
 
 TCDescriptor::~TCDescriptor() = default;
@@ -306,6 +341,11 @@ TCDescriptor::~TCDescriptor() = default;
 int TCDescriptor::Parse(const unsigned char* data, int length, TCDescriptorHash& hash, unsigned char tableId)
 {
     return m_pImp ? m_pImp->Parse(data, length, hash, tableId) : 0;
+}
+
+int TCDescriptor::ParseByCount(const unsigned char* data, int count, TCDescriptorHash& hash, unsigned char tableId)
+{
+    return m_pImp ? m_pImp->ParseByCount(data, count, hash, tableId) : 0;
 }
 
 int TCDescriptor::ParseByCount(const unsigned char* data, int count, TCDescriptorHash& hash, unsigned char tableId,

@@ -1,34 +1,22 @@
 #ifndef ZUM_CORE_DESCRIPTOR_H
 #define ZUM_CORE_DESCRIPTOR_H
 
-#include <climits>
 #include <memory>
+#include <variant>
 
 #include <zum-platform/ZUMHandle.h>
 
 #include "DescriptorHash.h"
 
-class TCDescConfBase;
+#include "DescConfBase.h"
 
 // Walks one descriptor loop: a factory per table scope makes an object per
-// tag, the object decodes itself and goes into the caller's hash.
+// tag, the object decodes itself and goes into the caller's hash. One object
+// may walk several loops of a table; it keeps its factory for the table scope
+// it last served, so that further loops cost no allocation.
 class ZUM_EXPORT TCDescriptorBase {
 public:
     TCDescriptorBase() = default;
-    virtual ~TCDescriptorBase();
-
-    // Returns `length` (0 when the table scope has no factory).
-    virtual int Parse(const unsigned char* data, int length, TCDescriptorHash& hash, unsigned char tableId);
-    // `count` descriptors, each added before it is decoded; returns the bytes
-    // walked. A `limit` of 0 or more ends the walk before a descriptor that
-    // would pass it.
-    virtual int ParseByCount(const unsigned char* data, int count, TCDescriptorHash& hash, unsigned char tableId,
-                             int limit = INT_MAX);
-    // A specifier known from elsewhere; it reaches the hooks, not the factory.
-    virtual bool SetCachedPDSD(unsigned int pds);
-
-    TCDescriptorBase(const TCDescriptorBase&) = delete;
-    TCDescriptorBase& operator=(const TCDescriptorBase&) = delete;
 
 protected:
     virtual TCDescConfBase* t_GetDescConf(unsigned char tableId) = 0;
@@ -39,9 +27,37 @@ protected:
     virtual bool t_CheckLinkageDescriptor(TCBaseDesc* desc, unsigned int pds);
     virtual bool t_SetPDSOnCRIDDescriptor(TCBaseDesc* desc, unsigned int pds);
 
+public:
+    virtual ~TCDescriptorBase();
+    // Returns `length` (0 when the table scope has no factory).
+    virtual int Parse(const unsigned char* data, int length, TCDescriptorHash& hash, unsigned char tableId);
+    // `count` descriptors, each added before it is decoded; returns the bytes walked.
+    virtual int ParseByCount(const unsigned char* data, int count, TCDescriptorHash& hash, unsigned char tableId);
+    // A specifier known from elsewhere; it reaches the hooks, not the factory.
+    virtual bool SetCachedPDSD(unsigned int pds);
+
+    // ParseByCount for a caller that knows where its buffer ends: the walk
+    // stops before a descriptor that would pass `limit` bytes (a negative
+    // limit walks nothing).
+    int ParseByCount(const unsigned char* data, int count, TCDescriptorHash& hash, unsigned char tableId, int limit);
+
+    TCDescriptorBase(const TCDescriptorBase&) = delete;
+    TCDescriptorBase& operator=(const TCDescriptorBase&) = delete;
+
+protected:
+    // Bytes of the loop from the descriptor the hooks are looking at; a hook
+    // reads no further.
+    int t_LoopLeft() const { return m_loopLeft; }
     static void t_SetTableId(TCBaseDesc* desc, unsigned char tableId) { desc->m_tableId = tableId; }
 
     unsigned int m_cachedPDSD = 0xFFFFFFFF;
+
+private:
+    TCDescConfBase* m_Conf(unsigned char tableId);
+
+    std::unique_ptr<TCDescConfBase> m_pConf;
+    int m_confTableId = -1;
+    int m_loopLeft = 0;
 };
 
 // DVB: carries the private data specifier from descriptor to descriptor
@@ -89,23 +105,28 @@ protected:
     TCDescConfBase* t_GetDescConf(unsigned char tableId) override;
 };
 
-// What a table parser constructs for each loop: picks the broadcast system
-// by the receiver's country and forwards to it.
+// What a table parser constructs for each loop, or for the loops of one
+// section: picks the broadcast system by the receiver's country and forwards
+// to it. The implementation is held inline, so a loop allocates nothing here.
 class ZUM_EXPORT TCDescriptor {
 public:
     explicit TCDescriptor(const ZUMHandle& handle);
     virtual ~TCDescriptor();
 
     int Parse(const unsigned char* data, int length, TCDescriptorHash& hash, unsigned char tableId);
-    int ParseByCount(const unsigned char* data, int count, TCDescriptorHash& hash, unsigned char tableId,
-                     int limit = INT_MAX);
+    int ParseByCount(const unsigned char* data, int count, TCDescriptorHash& hash, unsigned char tableId);
+    // The bounded walk of TCDescriptorBase.
+    int ParseByCount(const unsigned char* data, int count, TCDescriptorHash& hash, unsigned char tableId, int limit);
     bool SetCachedPDSD(unsigned int pds);
 
     TCDescriptor(const TCDescriptor&) = delete;
     TCDescriptor& operator=(const TCDescriptor&) = delete;
 
 private:
-    std::unique_ptr<TCDescriptorBase> m_pImp;
+    std::variant<std::monostate, TCDescriptorDVB, TCDescriptorISDB, TCDescriptorJPN, TCDescriptorATSC,
+                 TCDescriptorKR>
+        m_imp;
+    TCDescriptorBase* m_pImp = nullptr;
     ZUMHandle m_handle;
 };
 

@@ -1,5 +1,7 @@
 #include "DescriptorHash.h"
 
+#include <cstring>
+
 #include "Diagnostics.h"
 
 namespace {
@@ -22,17 +24,38 @@ void TCDescriptorHash::Add(TCBaseDesc* desc)
 {
     if (!desc)
         return;
+    std::unique_ptr<TCBaseDesc> owned(desc);
     // Most loops hold a handful of descriptors: one block instead of growing 1, 2, 4.
     if (m_byArrival.empty())
         m_byArrival.reserve(kFirstCapacity);
-    m_byArrival.emplace_back(desc);
-    m_byTag[desc->Tag()].push_back(desc);
+    const int tag = owned->Tag();
+    m_byArrival.push_back(TTEntry{std::move(owned), tag});
+}
+
+const unsigned char* TCDescriptorHash::m_KeepBytes(const unsigned char* data, int length)
+{
+    unsigned char* block = new unsigned char[sizeof(unsigned char*) + static_cast<size_t>(length)];
+    std::memcpy(block, &m_pBlocks, sizeof(unsigned char*));
+    std::memcpy(block + sizeof(unsigned char*), data, static_cast<size_t>(length));
+    m_pBlocks = block;
+    return block + sizeof(unsigned char*);
+}
+
+void TCDescriptorHash::m_FreeBlocks()
+{
+    while (m_pBlocks) {
+        unsigned char* next = nullptr;
+        std::memcpy(&next, m_pBlocks, sizeof(unsigned char*));
+        delete[] m_pBlocks;
+        m_pBlocks = next;
+    }
 }
 
 void TCDescriptorHash::DeleteAll()
 {
-    m_byTag.clear();
+    // The descriptors first: they read their raw copies from the blocks.
     m_byArrival.clear();
+    m_FreeBlocks();
 }
 
 int TCDescriptorHash::NumOfDescriptors() const
@@ -42,21 +65,27 @@ int TCDescriptorHash::NumOfDescriptors() const
 
 int TCDescriptorHash::NumOfDescriptors(int tag) const
 {
-    const auto it = m_byTag.find(tag);
-    return it == m_byTag.end() ? 0 : static_cast<int>(it->second.size());
+    int count = 0;
+    for (const TTEntry& entry : m_byArrival)
+        count += entry.tag == tag;
+    return count;
 }
 
 TCBaseDesc* TCDescriptorHash::DescriptorByIndex(unsigned int index) const
 {
-    return index < m_byArrival.size() ? m_byArrival[index].get() : nullptr;
+    return index < m_byArrival.size() ? m_byArrival[index].desc.get() : nullptr;
 }
 
 TCBaseDesc* TCDescriptorHash::Descriptor(int tag, unsigned int index) const
 {
-    const auto it = m_byTag.find(tag);
-    if (it == m_byTag.end() || index >= it->second.size())
-        return nullptr;
-    return it->second[index];
+    for (const TTEntry& entry : m_byArrival) {
+        if (entry.tag != tag)
+            continue;
+        if (index == 0)
+            return entry.desc.get();
+        --index;
+    }
+    return nullptr;
 }
 
 bool TCDescriptorHash::GetDescriptor(std::list<TCBaseDesc*>* pDesc) const
@@ -65,8 +94,8 @@ bool TCDescriptorHash::GetDescriptor(std::list<TCBaseDesc*>* pDesc) const
         return false;
     if (m_byArrival.empty())
         return false;
-    for (const auto& desc : m_byArrival)
-        pDesc->push_back(desc->Fork());
+    for (const TTEntry& entry : m_byArrival)
+        pDesc->push_back(entry.desc->Fork());
     return true;
 }
 
@@ -75,7 +104,7 @@ bool TCDescriptorHash::operator==(const TCDescriptorHash& other) const
     if (m_byArrival.size() != other.m_byArrival.size())
         return false;
     for (size_t i = 0; i < m_byArrival.size(); ++i) {
-        if (!m_byArrival[i]->FlagEqual(other.m_byArrival[i].get()))
+        if (!m_byArrival[i].desc->FlagEqual(other.m_byArrival[i].desc.get()))
             return false;
     }
     return true;
@@ -86,7 +115,8 @@ TCDescriptorHash& TCDescriptorHash::operator=(const TCDescriptorHash& other)
     if (this == &other)
         return *this;
     DeleteAll();
-    for (const auto& desc : other.m_byArrival)
-        Add(desc->Fork());
+    m_byArrival.reserve(other.m_byArrival.size());
+    for (const TTEntry& entry : other.m_byArrival)
+        Add(entry.desc->Fork());
     return *this;
 }

@@ -1,7 +1,6 @@
 #ifndef ZUM_CORE_DESCRIPTORHASH_H
 #define ZUM_CORE_DESCRIPTORHASH_H
 
-#include <map>
 #include <memory>
 #include <vector>
 
@@ -9,7 +8,7 @@
 #include "DescriptorContainer.h"
 
 // The descriptor objects of one loop, by tag and by order of arrival. It owns
-// them; the tag view borrows from the arrival view.
+// them, and the blocks that hold the raw copies its loops made.
 class ZUM_EXPORT TCDescriptorHash : public IDescriptorContainer {
 public:
     TCDescriptorHash() = default;
@@ -31,8 +30,22 @@ public:
     TCDescriptorHash& operator=(const TCDescriptorHash& other);
 
 private:
-    std::map<int, std::vector<TCBaseDesc*>> m_byTag;
-    std::vector<std::unique_ptr<TCBaseDesc>> m_byArrival;
+    // One block per loop walked into this container: a link to the block
+    // before it, then the loop's bytes, which its descriptors read as their
+    // raw copies. Freed after the descriptors.
+    const unsigned char* m_KeepBytes(const unsigned char* data, int length);
+    void m_FreeBlocks();
+
+    // Arrival order, with the tag each answered at Add: loops are short, so
+    // a scan finds a tag's entries faster than a map would be built.
+    struct TTEntry {
+        std::unique_ptr<TCBaseDesc> desc;
+        int tag;
+    };
+    std::vector<TTEntry> m_byArrival;
+    unsigned char* m_pBlocks = nullptr;
+
+    friend class TCDescriptorBase;
 };
 
 // Base for tables, instances and items that own one descriptor loop: the

@@ -1,16 +1,7 @@
 #include "SectionParser.h"
 
+#include "ByteReader.h"
 #include "Log.h"
-
-namespace {
-
-unsigned int ReadBE32(const unsigned char* p)
-{
-    return (static_cast<unsigned int>(p[0]) << 24) | (static_cast<unsigned int>(p[1]) << 16) |
-           (static_cast<unsigned int>(p[2]) << 8) | static_cast<unsigned int>(p[3]);
-}
-
-} // namespace
 
 TCSectionParser::TCSectionParser(int tableId, const ZUMHandle& handle)
     : m_tableId(static_cast<unsigned char>(tableId & 0xFF)), m_handle(handle)

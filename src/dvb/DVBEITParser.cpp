@@ -5,6 +5,7 @@
 
 #include <zlib.h>
 
+#include "../core/ByteReader.h"
 #include "../core/Log.h"
 #include "BcdDigits.h"
 #include "DescLocalTimeOffset.h"
@@ -14,17 +15,6 @@ namespace {
 // table_id to last_table_id: the bytes in front of the event loop.
 constexpr int kSectionHeadBytes = 14;
 constexpr int kCrcBytes = 4;
-
-unsigned short ReadBE16(const unsigned char* p)
-{
-    return static_cast<unsigned short>((p[0] << 8) | p[1]);
-}
-
-unsigned int ReadBE32(const unsigned char* p)
-{
-    return (static_cast<unsigned int>(p[0]) << 24) | (static_cast<unsigned int>(p[1]) << 16) |
-           (static_cast<unsigned int>(p[2]) << 8) | static_cast<unsigned int>(p[3]);
-}
 
 bool AllBitsSet(const unsigned char* p, int count)
 {

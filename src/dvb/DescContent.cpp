@@ -1,5 +1,7 @@
 #include "DescContent.h"
 
+#include <cstddef>
+
 #include "../core/ByteReader.h"
 
 // ---------------------------------------------------------------- content
@@ -46,7 +48,7 @@ unsigned char TCDescContent::m_Nibble(int index, int which) const
 {
     if (index < 0 || index >= m_count)
         return 0;
-    return m_nibbles[static_cast<size_t>(index) * 4 + static_cast<size_t>(which)];
+    return m_nibbles[static_cast<std::size_t>(index) * 4 + static_cast<std::size_t>(which)];
 }
 
 unsigned char TCDescContent::ContentNibbleLevel1(int index) const
@@ -105,10 +107,10 @@ int TCDescParentalRating::t_Parse(const unsigned char* payload, unsigned char le
 
 unsigned int TCDescParentalRating::CountryCode(int index) const
 {
-    return index >= 0 && index < m_count ? m_ratings[static_cast<size_t>(index)].countryCode : 0;
+    return index >= 0 && index < m_count ? m_ratings[static_cast<std::size_t>(index)].countryCode : 0;
 }
 
 unsigned char TCDescParentalRating::Rating(int index) const
 {
-    return index >= 0 && index < m_count ? m_ratings[static_cast<size_t>(index)].rating : 0;
+    return index >= 0 && index < m_count ? m_ratings[static_cast<std::size_t>(index)].rating : 0;
 }

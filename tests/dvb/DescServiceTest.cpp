@@ -17,6 +17,7 @@
 #include "dvb/DescMultilingualNetworkName.h"
 #include "dvb/DescNetworkName.h"
 #include "dvb/DescPrivateDataSpecifier.h"
+#include "operators/DescDishTVGenre.h"
 #include "dvb/DescSatelliteDeliverySystem.h"
 #include "dvb/DescService.h"
 #include "dvb/DescServiceMove.h"
@@ -230,7 +231,7 @@ TEST(DVBDescriptorFactories, Rows)
         {"GBR", 0x42, stream, 0x52, typeid(TCDescDefault)}, // in SI tables the stream identifier has no row
         {"GBR BRA", 0x4E, content, 0x54, typeid(TCDescContent)},
         // Under the Dish TV specifier the genre descriptor keeps its raw bytes.
-        {"GBR", 0x4E, zumtest::Concat({Desc(0x5F, {0xEC, 0xCA, 0x00, 0x01}), content}), 0x54, typeid(TCDescDefault)},
+        {"GBR", 0x4E, zumtest::Concat({Desc(0x5F, {0xEC, 0xCA, 0x00, 0x01}), content}), 0x54, typeid(TCDescDishTVGenre)},
         {"GBR BRA", 0x4E, rating, 0x55, typeid(TCDescParentalRating)},
         {"BRA", 0x02, rating, 0x55, typeid(TCDescParentalRating)}, // of the program tables only the ISDB one has it
         {"GBR", 0x02, rating, 0x55, typeid(TCDescDefault)},
