@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdlib>
+#include <malloc.h>
 #include <new>
 
 // glibc's own entry points, under the names it exports for wrappers like these.
@@ -14,6 +15,8 @@ namespace {
 
 uint64_t g_news = 0;
 uint64_t g_mallocs = 0;
+// Bytes in live blocks, as the allocator sized them.
+uint64_t g_liveBytes = 0;
 
 void* NewBlock(size_t size)
 {
@@ -29,7 +32,7 @@ namespace zumbench {
 
 AllocCounts CurrentAllocCounts()
 {
-    return {g_news, g_mallocs};
+    return {g_news, g_mallocs, g_liveBytes};
 }
 
 } // namespace zumbench
@@ -37,23 +40,31 @@ AllocCounts CurrentAllocCounts()
 extern "C" void* malloc(size_t size)
 {
     ++g_mallocs;
-    return __libc_malloc(size);
+    void* p = __libc_malloc(size);
+    g_liveBytes += malloc_usable_size(p);
+    return p;
 }
 
 extern "C" void* calloc(size_t count, size_t size)
 {
     ++g_mallocs;
-    return __libc_calloc(count, size);
+    void* p = __libc_calloc(count, size);
+    g_liveBytes += malloc_usable_size(p);
+    return p;
 }
 
 extern "C" void* realloc(void* pointer, size_t size)
 {
     ++g_mallocs;
-    return __libc_realloc(pointer, size);
+    g_liveBytes -= malloc_usable_size(pointer);
+    void* p = __libc_realloc(pointer, size);
+    g_liveBytes += malloc_usable_size(p);
+    return p;
 }
 
 extern "C" void free(void* pointer)
 {
+    g_liveBytes -= malloc_usable_size(pointer);
     __libc_free(pointer);
 }
 

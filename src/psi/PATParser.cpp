@@ -1,6 +1,19 @@
 #include "PATParser.h"
 
+#include <algorithm>
+
+#include "../core/ByteReader.h"
 #include "../core/Log.h"
+
+namespace {
+
+// Orders entries by program number, for the searches of both directions.
+struct ByNumber {
+    bool operator()(const TTProgramList& entry, unsigned short number) const { return entry.programNumber < number; }
+    bool operator()(unsigned short number, const TTProgramList& entry) const { return number < entry.programNumber; }
+};
+
+} // namespace
 
 TCPATParser::TCPATParser(const ZUMHandle& handle) : TCSectionParser(0x00, handle) {}
 
@@ -36,15 +49,13 @@ int TCPATParser::ProgramNumber(unsigned int index) const
 {
     if (index >= m_programList.size())
         return -1;
-    auto it = m_programList.begin();
-    std::advance(it, index);
-    return it->first;
+    return m_programList[index].programNumber;
 }
 
 int TCPATParser::ProgramPID(unsigned short programNumber) const
 {
-    const auto it = m_programList.find(programNumber);
-    return it == m_programList.end() ? -1 : it->second.pid;
+    const auto it = std::lower_bound(m_programList.begin(), m_programList.end(), programNumber, ByNumber());
+    return it == m_programList.end() || it->programNumber != programNumber ? -1 : it->pid;
 }
 
 void TCPATParser::t_AddProgram(unsigned short programNumber, short pid)
@@ -54,7 +65,8 @@ void TCPATParser::t_AddProgram(unsigned short programNumber, short pid)
         m_zeroProgramPid = pid;
         return;
     }
-    m_programList.emplace(programNumber, TTProgramList{programNumber, pid});
+    const auto at = std::upper_bound(m_programList.begin(), m_programList.end(), programNumber, ByNumber());
+    m_programList.insert(at, TTProgramList{programNumber, pid});
 }
 
 bool TCPATParser::t_Parse(const unsigned char* body, int /*length*/)
@@ -71,10 +83,11 @@ bool TCPATParser::t_Parse(const unsigned char* body, int /*length*/)
     // The loop is bounded by section_length alone: 5 header bytes and the CRC_32.
     if (m_sectionLength > 12) {
         const int count = (m_sectionLength - 9) / 4;
+        m_programList.reserve(m_programList.size() + static_cast<size_t>(count));
         for (int i = 0; i < count; ++i) {
             const unsigned char* entry = body + i * 4;
-            const unsigned short programNumber = static_cast<unsigned short>((entry[0] << 8) | entry[1]);
-            const short pid = static_cast<short>(((entry[2] & 0x1F) << 8) | entry[3]);
+            const unsigned short programNumber = static_cast<unsigned short>(ReadBE16(entry));
+            const short pid = static_cast<short>(ReadBE16(entry + 2) & 0x1FFF);
             t_AddProgram(programNumber, pid);
             ZUM_LOGD("Program Number[%d]", programNumber);
             ZUM_LOGD("PMT PID[%d]", pid);

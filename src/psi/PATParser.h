@@ -1,7 +1,7 @@
 #ifndef ZUM_PSI_PATPARSER_H
 #define ZUM_PSI_PATPARSER_H
 
-#include <map>
+#include <vector>
 
 #include "../core/BaseSection.h"
 #include "../core/SectionParser.h"
@@ -37,8 +37,9 @@ protected:
     void t_AddProgram(unsigned short programNumber, short pid);
 
 private:
-    // Entries of a repeated program number keep their order of arrival.
-    std::multimap<int, TTProgramList> m_programList;
+    // Ordered by program number; a repeated number's entries keep their order
+    // of arrival. One block for the list, not one per program.
+    std::vector<TTProgramList> m_programList;
     int m_transportStreamId = 0;
     int m_zeroProgramPid = -1;
 };
