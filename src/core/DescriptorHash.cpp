@@ -94,8 +94,11 @@ bool TCDescriptorHash::GetDescriptor(std::list<TCBaseDesc*>* pDesc) const
         return false;
     if (m_byArrival.empty())
         return false;
-    for (const TTEntry& entry : m_byArrival)
-        pDesc->push_back(entry.desc->Fork());
+    for (const TTEntry& entry : m_byArrival) {
+        std::unique_ptr<TCBaseDesc> clone(entry.desc->Fork());
+        pDesc->push_back(clone.get());
+        clone.release();
+    }
     return true;
 }
 

@@ -196,6 +196,29 @@ TEST(Descriptor, RunOverAndShortLoops)
     }
 }
 
+// A private tag that runs over the loop still meets the binder's test, and
+// without a binder the assertion, before the run-over ends the loop.
+TEST(Descriptor, RunOverPrivateTagMeetsTheHooksFirst)
+{
+    const Bytes loop = Concat({Desc(0x48, {1}), Bytes{0x88, 0x09, 0x01}});
+    for (bool withBinder : {true, false}) {
+        SCOPED_TRACE(withBinder ? "binder" : "no binder");
+        zumtest::BinderScope binder;
+        std::vector<unsigned int> asked;
+        binder->acceptSpecifier = [&asked](unsigned int pds) { asked.push_back(pds); return true; };
+        TCDescriptorDVB dvb{ZUMHandle()};
+        if (!withBinder)
+            zum_platform::RemoveBinder();
+        zumtest::LogCapture log;
+        TCDescriptorHash hash;
+        EXPECT_EQ(ParseLoop(dvb, loop, hash), static_cast<int>(loop.size()));
+        EXPECT_EQ(Tags(hash), std::vector<int>{0x48});
+        EXPECT_EQ(asked.size(), withBinder ? 1u : 0u);
+        EXPECT_EQ(log.Contains("Failed: pBinder"), !withBinder);
+        EXPECT_TRUE(log.Contains("inLen=6, outLen=14"));
+    }
+}
+
 TEST(Descriptor, ParseByCountAddsBeforeDecoding)
 {
     zumtest::BinderScope binder;

@@ -251,7 +251,13 @@ TEST(DVBDescriptorFactories, Rows)
         auto* d = dynamic_cast<TCDescComponent*>(hash.Descriptor(0x50, 0));
         EXPECT_TRUE(d && d->IsHD() == (std::string(country) == "BRA")) << country;
     }
-    // Only the EACEM specifier stays as a descriptor in SI loops; a PMT filters the same way, but not in ISDB.
+    // Under 0x54 only the content and Dish TV genre classes stay: a program or conditional access table drops it.
+    for (UChar tableId : {0x01, 0x02}) {
+        TCDescriptorHash hash;
+        Walk("GBR", tableId, content, hash);
+        EXPECT_EQ(hash.NumOfDescriptors(0x54), 0) << int(tableId);
+    }
+    // Only the specifier 0x22C6 stays as a descriptor in SI loops; a PMT filters the same way, but not in ISDB.
     const struct { const char* country; UChar tableId, low, high; bool kept; } specifiers[] = {
         {"GBR", 0x40, 0x22, 0xC6, 1}, {"GBR", 0x40, 0x00, 0x28, 0}, {"GBR", 0x02, 0x22, 0xC6, 1},
         {"GBR", 0x02, 0x23, 0x3A, 0}, {"BRA", 0x02, 0x23, 0x3A, 1},
