@@ -158,14 +158,15 @@ private:
         for (int i = 0; i < m_item.NumOfDVBEITItemEvent(); ++i) {
             const TCDVBEITItemEvent* event = m_item.DVBEITItemEvent(static_cast<unsigned>(i));
             TCDescriptorHash hash;
-            TCDescriptor loop(kHandle);
-            loop.Parse(event->Descriptors(), event->DescriptorsLength(), hash, tableId);
+            m_loop.Parse(event->Descriptors(), event->DescriptorsLength(), hash, tableId);
             m_lastDescriptors = hash.NumOfDescriptors();
         }
     }
 
     TCDVBEITParser m_parser;
     TCDVBEITItem m_item;
+    // One loop walker for every event, as a guide keeps it: its factory is made once.
+    TCDescriptor m_loop{kHandle};
     bool m_decodeLoops;
     int m_lastDescriptors = 0;
 };
