@@ -10,6 +10,7 @@
 
 #include <zum-platform/PlatformConfig.h>
 
+#include "FuzzSection.h"
 #include "core/BaseDesc.h"
 #include "core/Descriptor.h"
 #include "core/DescriptorDataTranslator.h"

@@ -7,6 +7,7 @@
 #include <cstring>
 #include <memory>
 
+#include "FuzzSection.h"
 #include "inspect/TsDemux.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)

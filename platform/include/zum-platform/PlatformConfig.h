@@ -37,6 +37,8 @@ BinderSettings& Binder();
 ZUMHandle LastBinderHandle();
 
 // Lines at or above this priority go to standard error; default 6 (ERROR).
+// kLogSilent lets none through, and none is formatted.
+constexpr int kLogSilent = 100;
 void SetLogThreshold(int priority);
 int LogThreshold();
 
