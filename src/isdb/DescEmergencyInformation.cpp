@@ -96,63 +96,41 @@ int TCDescEmergencyInformation::t_Parse(const unsigned char* payload, unsigned c
     return at;
 }
 
-const TCDescEmergencyInformation::TTLoop* TCDescEmergencyInformation::m_Loop(unsigned long index) const
+const TCDescEmergencyInformation::TTLoop* TCDescEmergencyInformation::m_Loop(unsigned long index,
+                                                                             const char* accessor) const
 {
-    return index < m_numOfDescLoop && index < m_loops.size() ? &m_loops[index] : nullptr;
+    if (index < m_numOfDescLoop && index < m_loops.size())
+        return &m_loops[index];
+    ZUM_LOGE("TCDescEmergencyInformation::%s wrong index = %zu", accessor, static_cast<size_t>(index));
+    return nullptr;
 }
 
 bool TCDescEmergencyInformation::GetServiceID(unsigned long index, unsigned short& serviceId) const
 {
-    const TTLoop* loop = m_Loop(index);
-    if (!loop) {
-        ZUM_LOGE("TCDescEmergencyInformation::ServiceID wrong index = %zu", static_cast<size_t>(index));
-        return false;
-    }
-    serviceId = loop->serviceId;
-    return true;
+    return m_Field(index, "ServiceID", &TTLoop::serviceId, serviceId);
 }
 
 bool TCDescEmergencyInformation::GetStartEndFlag(unsigned long index, bool& startEnd) const
 {
-    const TTLoop* loop = m_Loop(index);
-    if (!loop) {
-        ZUM_LOGE("TCDescEmergencyInformation::StartEndFlag wrong index = %zu", static_cast<size_t>(index));
-        return false;
-    }
-    startEnd = loop->startEndFlag;
-    return true;
+    return m_Field(index, "StartEndFlag", &TTLoop::startEndFlag, startEnd);
 }
 
 bool TCDescEmergencyInformation::GetSignalLevel(unsigned long index, bool& signalLevel) const
 {
-    const TTLoop* loop = m_Loop(index);
-    if (!loop) {
-        ZUM_LOGE("TCDescEmergencyInformation::SignalLevel wrong index = %zu", static_cast<size_t>(index));
-        return false;
-    }
-    signalLevel = loop->signalLevel;
-    return true;
+    return m_Field(index, "SignalLevel", &TTLoop::signalLevel, signalLevel);
 }
 
 bool TCDescEmergencyInformation::GetAreaCodeLength(unsigned long index, unsigned char& count) const
 {
-    const TTLoop* loop = m_Loop(index);
-    if (!loop) {
-        ZUM_LOGE("TCDescEmergencyInformation::AreaCodeLength wrong index = %zu", static_cast<size_t>(index));
-        return false;
-    }
-    count = static_cast<unsigned char>(loop->areaCodeCount);
-    return true;
+    return m_Field(index, "AreaCodeLength", &TTLoop::areaCodeCount, count);
 }
 
 bool TCDescEmergencyInformation::GetAreaCode(unsigned long index, unsigned long areaIndex,
                                              unsigned short& areaCode) const
 {
-    const TTLoop* loop = m_Loop(index);
-    if (!loop) {
-        ZUM_LOGE("TCDescEmergencyInformation::GetAreaCode wrong index = %zu", static_cast<size_t>(index));
+    const TTLoop* loop = m_Loop(index, "GetAreaCode");
+    if (!loop)
         return false;
-    }
     const unsigned char* codes = t_At(loop->areaCodes);
     if (areaIndex >= loop->areaCodeCount || !codes) {
         ZUM_LOGE("TCDescEmergencyInformation::GetAreaCode wrong area index = %zu", static_cast<size_t>(areaIndex));

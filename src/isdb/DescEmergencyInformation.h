@@ -45,7 +45,17 @@ private:
         TTRawRun areaCodes; // two bytes per code
     };
 
-    const TTLoop* m_Loop(unsigned long index) const;
+    // The loop at `index`; null, with the accessor's log line, for a bad index.
+    const TTLoop* m_Loop(unsigned long index, const char* accessor) const;
+    // One field of the loop at `index` into `out`, which a bad index leaves untouched.
+    template <class Field, class Out>
+    bool m_Field(unsigned long index, const char* accessor, Field TTLoop::*field, Out& out) const
+    {
+        const TTLoop* loop = m_Loop(index, accessor);
+        if (loop)
+            out = static_cast<Out>(loop->*field);
+        return loop != nullptr;
+    }
     bool m_ConvertToEnumValue(unsigned short code, EJapanWideArea& wideArea, EJapanPrefecture& prefecture) const;
 
     unsigned int m_numOfDescLoop = 0;
