@@ -23,6 +23,15 @@ bool TakeText(TCByteReader& reader, int count, std::string& text)
     return true;
 }
 
+// One byte into `field` if there is one left.
+bool TakeByte(TCByteReader& reader, unsigned char& field)
+{
+    if (!reader.Has(1))
+        return false;
+    field = static_cast<unsigned char>(reader.U8());
+    return true;
+}
+
 // Five digits in the upper 20 bits; a nibble above 9 is not refused and enters the sum as it is.
 unsigned int LocationCode(unsigned int bytes)
 {
@@ -75,15 +84,10 @@ int TCEWSRegion::t_Parse(const unsigned char* data, int length)
     if (!reader.Has(2))
         return 0;
     disasterCode = static_cast<unsigned short>(reader.U16());
-    if (!reader.Has(1))
+    // A missing byte ends the parse with the fields before it stored.
+    unsigned char count = 0;
+    if (!TakeByte(reader, locationTypeCode) || !TakeByte(reader, packageId) || !TakeByte(reader, count))
         return reader.Consumed();
-    locationTypeCode = static_cast<unsigned char>(reader.U8());
-    if (!reader.Has(1))
-        return reader.Consumed();
-    packageId = static_cast<unsigned char>(reader.U8());
-    if (!reader.Has(1))
-        return reader.Consumed();
-    const unsigned int count = reader.U8();
 
     for (unsigned int i = 0; i < count; ++i) {
         if (!reader.Has(4))
@@ -194,12 +198,8 @@ void TCEWSMessage::t_DeleteAll()
 int TCEWSMessage::t_Parse(const unsigned char* data, int length)
 {
     TCByteReader reader(data, length);
-    if (!reader.Has(1))
-        return 0;
-    headerByte = static_cast<unsigned char>(reader.U8());
-    if (!reader.Has(1))
+    if (!TakeByte(reader, headerByte) || !TakeByte(reader, messageKey))
         return reader.Consumed();
-    messageKey = static_cast<unsigned char>(reader.U8());
 
     // A lone byte at the end is no entry.
     while (reader.Has(2)) {
