@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "inspect/Renderers.h"
+#include "inspect/Router.h"
 #include "inspect/Session.h"
 #include "support/LogCapture.h"
 #include "support/TestEnvironment.h"
@@ -133,4 +134,24 @@ TEST(InspectEws, EmergencyInformationDescriptorByCountry)
                       {"code": "0xAAC", "wideArea": 0, "prefecture": 23}]}]})"));
     const Json gbr = Inspect(EwsSample(), "GBR")["pmts"][0]["descriptors"][0];
     EXPECT_EQ(gbr["class"], "TCDescDefault");
+}
+
+// Table 0x80 is the warning only on a private-section stream that a PMT announced: on the EIT PID and in a
+// file of sections it stays a compressed EIT, on any other PID it has no parser.
+TEST(InspectEws, RoutedOnTheAnnouncedStreamOnly)
+{
+    zumtest::BinderScope binder;
+    zuminspect::Router router(kZUMDefaultHandle, false);
+    EXPECT_EQ(router.ParserName(0x0901, 0x80), "");
+    EXPECT_FALSE(router.Wants(0x0901));
+    zuminspect::TsDemux demux([&](uint16_t pid, const uint8_t* s, size_t n) { router.OnSection(pid, s, n); });
+    demux.SetPidFilter([&](uint16_t pid) { return router.Wants(pid); });
+    demux.Feed(EwsSample().data(), EwsSample().size());
+    demux.Finish();
+    EXPECT_TRUE(router.Wants(0x0901));
+    EXPECT_EQ(router.ParserName(0x0901, 0x80), "TCEWSParser");
+    EXPECT_EQ(router.ParserName(0x0012, 0x80), "TCDVBEITParser");
+    EXPECT_EQ(router.ParserName(zuminspect::kNoPid, 0x80), "TCDVBEITParser");
+    EXPECT_EQ(router.ParserName(0x0902, 0x80), "");
+    EXPECT_EQ(router.ParserName(0x0901, 0x81), "");
 }
