@@ -62,6 +62,7 @@ TEST(DescEmergencyInformation, Bodies)
         {{}, "0", {}},
         {{0x00, 0x01, 0xC0}, "0", {}},
         {{0x00, 0x01, 0xC0, 0x00}, "1 | 1 1 1 0:", {}},
+        {{0x00, 0x01, 0xC0, 0xFF, 0x5A, 0x5F}, "0", {}},
         // Three loops of one size.
         {{0x00, 0x01, 0xC0, 2, 0x5A, 0x5F, 0x00, 0x02, 0x80, 2, 0x9B, 0x40, 0xFF, 0xFF, 0x3F, 2, 0xFF, 0xFF},
          "3 | 1 1 1 1: 5A5 | 2 1 0 1: 9B4 | 65535 0 0 1: FFF", {}},
@@ -90,6 +91,8 @@ TEST(DescEmergencyInformation, Bodies)
         auto d = Decode(c.body);
         EXPECT_EQ(Show(*d), c.fields);
         EXPECT_EQ(log.Lines(DLOG_ERROR), c.errors);
+        const std::string count = c.fields.substr(0, c.fields.find(' '));
+        EXPECT_EQ(log.Count("TCDescEmergencyInformation::t_Parse m_numOfDescLoop = " + count), c.body.size() >= 4);
         ExpectClone(*d);
     }
 }
