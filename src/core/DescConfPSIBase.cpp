@@ -8,6 +8,7 @@
 #include "../dvb/DescLanguage.h"
 #include "../dvb/DescPrivateDataSpecifier.h"
 #include "../dvb/DescServiceMove.h"
+#include "../isdb/DescEmergencyInformation.h"
 
 TCBaseDesc* TCDescConfPSIBase::NewDescriptor(int tag, const unsigned char* /*data*/, unsigned int /*pds*/)
 {
@@ -81,6 +82,7 @@ TCBaseDesc* TCDescConfPsiISDB::NewDescriptor(int tag, const unsigned char* data,
 {
     switch (tag) {
     case 0x55: return new TCDescParentalRating();
+    case 0xFC: return new TCDescEmergencyInformation();
     default: return TCDescConfPsiDVB::NewDescriptor(tag, data, pds);
     }
 }

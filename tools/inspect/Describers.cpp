@@ -28,6 +28,8 @@
 #include "dvb/DescServiceMove.h"
 #include "dvb/DescShortEvent.h"
 #include "dvb/DescT2SystemDelivery.h"
+#include "inspect/EwsView.h"
+#include "isdb/DescEmergencyInformation.h"
 #include "operators/DescLogicalChannel.h"
 #include "operators/DescLogicalChannelV2.h"
 
@@ -430,6 +432,7 @@ DescriberTable MakeTable()
     Register<TCDescCAIdentifier>(t, CAIdentifier);
     Register<TCDescLogicalChannel>(t, LogicalChannel);
     Register<TCDescLogicalChannelV2>(t, LogicalChannelV2);
+    Register<TCDescEmergencyInformation>(t, DescribeEmergencyInformation);
     return t;
 }
 

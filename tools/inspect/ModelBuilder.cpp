@@ -11,6 +11,7 @@
 #include "dvb/DVBTOTParser.h"
 #include "dvb/DescService.h"
 #include "inspect/Describers.h"
+#include "inspect/EwsView.h"
 #include "inspect/Router.h"
 #include "inspect/TsDemux.h"
 #include "operators/DescLogicalChannel.h"
@@ -315,7 +316,7 @@ Json Builder::Summary() const
                 versions = counts->second.versions;
             tables.push_back({{"pid", PidValue(pid)},
                               {"tableId", HexId(tableId)},
-                              {"table", TableName(pid, tableId)},
+                              {"table", parser == "TCEWSParser" ? "emergency warning" : TableName(pid, tableId)},
                               {"parser", parser.empty() ? Json(nullptr) : Json(parser)},
                               {"sections", sections != p.sectionsByTable.end() ? sections->second : 0},
                               {"versions", versions},
@@ -346,6 +347,7 @@ Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContex
             {"tdt", b.Tdt()},
             {"tot", b.Tot()},
             {"lcn", b.Lcn()},
+            {"ews", EwsModel(router, b.text)},
             {"summary", b.Summary()}};
 }
 

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <string>
 
+#include "inspect/EwsView.h"
 #include "inspect/Text.h"
 
 namespace zuminspect {
@@ -246,6 +247,7 @@ void RenderTree(const Json& model, std::ostream& out)
     tree.Events(model["eit"]);
     tree.Times(model["tdt"], model["tot"]);
     tree.Lcn(model["lcn"]);
+    RenderEwsTree(model["ews"], out);
     tree.Summary(model["summary"]);
 }
 

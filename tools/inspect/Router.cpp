@@ -9,6 +9,7 @@
 #include "dvb/DVBTDTParser.h"
 #include "dvb/DVBTOTParser.h"
 #include "inspect/TsDemux.h"
+#include "isdb/EWSParser.h"
 #include "psi/PATParser.h"
 #include "psi/PMTParser.h"
 
@@ -19,6 +20,8 @@ namespace {
 constexpr uint8_t kTidPat = 0x00;
 constexpr uint8_t kTidPmt = 0x02;
 constexpr uint8_t kTidLcn = 0x85;
+constexpr uint8_t kTidEws = 0x80;
+constexpr int kStreamTypePrivateSections = 0x05;
 
 bool IsEit(uint8_t tableId)
 {
@@ -56,7 +59,7 @@ Router::~Router() = default;
 bool Router::Wants(uint16_t pid) const
 {
     return m_allPids || pid == kPidPat || pid == kPidNit || pid == kPidSdt || pid == kPidEit || pid == kPidTime ||
-           pid == kNoPid || m_pmtPids.count(pid) > 0 || pid == m_networkPid;
+           pid == kNoPid || m_pmtPids.count(pid) > 0 || pid == m_networkPid || m_privateSectionPids.count(pid) > 0;
 }
 
 Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
@@ -72,6 +75,9 @@ Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
         return Kind::Nit;
     if ((tableId == 0x42 || tableId == 0x46) && (any || pid == kPidSdt))
         return Kind::Sdt;
+    // 0x80 is a compressed EIT on the EIT PID, the emergency warning table on a private-section stream.
+    if (tableId == kTidEws && pid != kPidEit && m_privateSectionPids.count(pid) > 0)
+        return Kind::Ews;
     // 0x85 is a compressed EIT on the EIT PID and the channel number table anywhere else.
     if (IsEit(tableId) && (pid == kPidEit || (any && tableId != kTidLcn)))
         return Kind::Eit;
@@ -95,6 +101,7 @@ TCSectionParser* Router::m_Parser(Kind kind, uint8_t tableId)
     case Kind::Tdt: return Lazy(m_tdt, m_handle);
     case Kind::Tot: return Lazy(m_tot, m_handle);
     case Kind::Lcn: return Lazy(m_lcn, m_handle);
+    case Kind::Ews: return Lazy(m_ews);
     case Kind::None: break;
     }
     return nullptr;
@@ -127,6 +134,22 @@ void Router::OnSection(uint16_t pid, const uint8_t* section, size_t size)
         m_timeTablesTaken.insert(tableId);
     else if (kind == Kind::Lcn)
         m_lcnPids.insert(pid);
+    else if (kind == Kind::Pmt)
+        m_LearnPrivateSectionPids();
+    else if (kind == Kind::Ews)
+        m_ewsPids.insert(pid);
+}
+
+void Router::m_LearnPrivateSectionPids()
+{
+    for (int i = 0; i < m_pmt->NumOfPMTInstance(); ++i) {
+        const TCPMTInstance* program = m_pmt->PMTInstanceOfIndex(static_cast<unsigned>(i));
+        for (int k = 0; k < program->NumOfElementary(); ++k) {
+            const TCPMTElementary* stream = program->PMTElementary(static_cast<unsigned>(k));
+            if (stream->StreamType() == kStreamTypePrivateSections)
+                m_privateSectionPids.insert(static_cast<uint16_t>(stream->ElementaryPID() & 0x1FFF));
+        }
+    }
 }
 
 void Router::m_LearnPids()
@@ -151,6 +174,7 @@ std::string Router::ParserName(uint16_t pid, uint8_t tableId) const
     case Kind::Tdt: return "TCDVBTDTParser";
     case Kind::Tot: return "TCDVBTOTParser";
     case Kind::Lcn: return "TCDVBLCNParser";
+    case Kind::Ews: return "TCEWSParser";
     case Kind::None: break;
     }
     return std::string();
@@ -193,6 +217,7 @@ std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
     case Kind::Tdt:
     case Kind::Tot: return m_timeTablesTaken.count(tableId) > 0;
     case Kind::Lcn: return m_lcn && m_lcn->IsRecv();
+    case Kind::Ews: return m_ews && m_ews->IsValidTRDW() && m_ews->IsValidTCDW() && m_ews->IsValidTMDW();
     case Kind::None: break;
     }
     return std::nullopt;

@@ -3,7 +3,8 @@
 
 // Hands every section from the demultiplexer to the parser of its table id,
 // the way a receiver's section filters would: the PAT on PID 0 names the PMT
-// and network PIDs, the DVB SI tables come on their well-known PIDs. Counts
+// and network PIDs, the DVB SI tables come on their well-known PIDs, and a
+// PMT's private-section streams carry the emergency warning table. Counts
 // what went where, so that no section is lost without a trace.
 
 #include <cstddef>
@@ -28,6 +29,7 @@ class TCDVBEITParser;
 class TCDVBTDTParser;
 class TCDVBTOTParser;
 class TCDVBLCNParser;
+class TCEWSParser;
 
 namespace zuminspect {
 
@@ -78,13 +80,16 @@ public:
     const TCDVBLCNParser* Lcn() const { return m_lcn.get(); }
     const std::set<uint16_t>& LcnPids() const { return m_lcnPids; }
     const EitCollector& Events() const { return m_events; }
+    const TCEWSParser* Ews() const { return m_ews.get(); }
+    const std::set<uint16_t>& EwsPids() const { return m_ewsPids; }
 
 private:
-    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn };
+    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews };
 
     Kind m_KindOf(uint16_t pid, uint8_t tableId) const;
     TCSectionParser* m_Parser(Kind kind, uint8_t tableId);
     void m_LearnPids();
+    void m_LearnPrivateSectionPids();
 
     ZUMHandle m_handle;
     bool m_allPids;
@@ -102,6 +107,9 @@ private:
     std::set<uint16_t> m_lcnPids;
     std::set<uint8_t> m_timeTablesTaken;
     EitCollector m_events;
+    std::unique_ptr<TCEWSParser> m_ews;
+    std::set<uint16_t> m_privateSectionPids; // streams of type 0x05 in a PMT
+    std::set<uint16_t> m_ewsPids;
 
     std::map<TableKey, TableCounts> m_counts;
     uint64_t m_routed = 0;

@@ -24,6 +24,16 @@ enum ELanguage : int {
     ELANGUAGE_OTHERS = 107,
 };
 
+// Japanese broadcast areas of ARIB emergency signalling: a wide area of
+// several prefectures (1 to 4), or one prefecture (17 to 64).
+enum EJapanWideArea : int {
+    EJAPAN_WIDE_AREA_NONE = 0,
+};
+
+enum EJapanPrefecture : int {
+    EJAPAN_PREFECTURE_NONE = 63,
+};
+
 constexpr unsigned int ZumPackCode(char a, char b, char c)
 {
     return (static_cast<unsigned int>(static_cast<unsigned char>(a)) << 16) |
