@@ -5,6 +5,7 @@
 
 #include <climits>
 #include <cstring>
+#include <list>
 #include <memory>
 
 #include "../core/ByteReader.h"
@@ -29,6 +30,25 @@ inline bool TakeBytes(TCByteReader& reader, unsigned int size, std::unique_ptr<u
         std::memcpy(out.get(), at, size);
     }
     return true;
+}
+
+// A block of a count byte and that many entries, each read by
+// `read(reader, entry)`: 1 when all are read, 0 for an empty block or an entry
+// cut short, which is not added; the entries before it stay in `entries`.
+template <class Entry, class Read>
+int ParseCountedBlock(std::list<Entry>& entries, const unsigned char* data, unsigned int size, Read read)
+{
+    if (data == nullptr || size == 0)
+        return 0;
+    TCByteReader reader = BlockReader(data, size);
+    const unsigned int count = reader.U8();
+    for (unsigned int i = 0; i < count; ++i) {
+        Entry entry;
+        if (!read(reader, entry))
+            return 0;
+        entries.push_back(std::move(entry));
+    }
+    return 1;
 }
 
 } // namespace zumtabledata
