@@ -12,6 +12,7 @@
 #include "dvb/DescService.h"
 #include "inspect/Describers.h"
 #include "inspect/Router.h"
+#include "inspect/SitView.h"
 #include "inspect/TsDemux.h"
 #include "operators/DescLogicalChannel.h"
 #include "psi/PATParser.h"
@@ -81,6 +82,7 @@ std::string TableName(uint16_t pid, uint8_t tableId)
     case 0x70: return "TDT";
     case 0x73: return "TOT";
     case 0x74: return "AIT";
+    case 0xD5: return "SIT";
     default: return "";
     }
 }
@@ -346,6 +348,7 @@ Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContex
             {"tdt", b.Tdt()},
             {"tot", b.Tot()},
             {"lcn", b.Lcn()},
+            {"sit", DescribeSit(router.Sit(), b.text)},
             {"summary", b.Summary()}};
 }
 

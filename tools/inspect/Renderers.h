@@ -27,6 +27,7 @@
 //   "tot":     null | {"time", "descriptors": [D]},
 //   "lcn":     null | {"pids": [..], "header": [3 numbers],
 //                      "records": [{"key": [3 numbers], "channelNumber", "visible", "extra"}]},
+//   "sit":     see SitView.h,
 //   "summary": {"demux": {"packetSize", "packets", "syncLosses", "skippedBytes", "truncatedPackets",
 //                         "continuityErrors", "transportErrors", "duplicates", "sections", "crcErrors",
 //                         "droppedSections", "unfinishedSections"},

@@ -9,6 +9,7 @@
 #include "dvb/DVBTDTParser.h"
 #include "dvb/DVBTOTParser.h"
 #include "inspect/TsDemux.h"
+#include "program/SITParser.h"
 #include "psi/PATParser.h"
 #include "psi/PMTParser.h"
 
@@ -19,6 +20,7 @@ namespace {
 constexpr uint8_t kTidPat = 0x00;
 constexpr uint8_t kTidPmt = 0x02;
 constexpr uint8_t kTidLcn = 0x85;
+constexpr uint8_t kTidSit = 0xD5;
 
 bool IsEit(uint8_t tableId)
 {
@@ -56,7 +58,7 @@ Router::~Router() = default;
 bool Router::Wants(uint16_t pid) const
 {
     return m_allPids || pid == kPidPat || pid == kPidNit || pid == kPidSdt || pid == kPidEit || pid == kPidTime ||
-           pid == kNoPid || m_pmtPids.count(pid) > 0 || pid == m_networkPid;
+           pid == kPidSit || pid == kNoPid || m_pmtPids.count(pid) > 0 || pid == m_networkPid;
 }
 
 Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
@@ -81,6 +83,8 @@ Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
         return Kind::Tot;
     if (tableId == kTidLcn)
         return Kind::Lcn;
+    if (tableId == kTidSit && (any || pid == kPidSit))
+        return Kind::Sit;
     return Kind::None;
 }
 
@@ -95,6 +99,7 @@ TCSectionParser* Router::m_Parser(Kind kind, uint8_t tableId)
     case Kind::Tdt: return Lazy(m_tdt, m_handle);
     case Kind::Tot: return Lazy(m_tot, m_handle);
     case Kind::Lcn: return Lazy(m_lcn, m_handle);
+    case Kind::Sit: return Lazy(m_sit, static_cast<int>(tableId), m_handle);
     case Kind::None: break;
     }
     return nullptr;
@@ -151,6 +156,7 @@ std::string Router::ParserName(uint16_t pid, uint8_t tableId) const
     case Kind::Tdt: return "TCDVBTDTParser";
     case Kind::Tot: return "TCDVBTOTParser";
     case Kind::Lcn: return "TCDVBLCNParser";
+    case Kind::Sit: return "TCSITParser";
     case Kind::None: break;
     }
     return std::string();
@@ -193,6 +199,7 @@ std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
     case Kind::Tdt:
     case Kind::Tot: return m_timeTablesTaken.count(tableId) > 0;
     case Kind::Lcn: return m_lcn && m_lcn->IsRecv();
+    case Kind::Sit: return m_sit && m_sit->IsRecv();
     case Kind::None: break;
     }
     return std::nullopt;

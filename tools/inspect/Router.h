@@ -28,6 +28,7 @@ class TCDVBEITParser;
 class TCDVBTDTParser;
 class TCDVBTOTParser;
 class TCDVBLCNParser;
+class TCSITParser;
 
 namespace zuminspect {
 
@@ -36,6 +37,7 @@ constexpr uint16_t kPidNit = 0x0010;
 constexpr uint16_t kPidSdt = 0x0011;
 constexpr uint16_t kPidEit = 0x0012;
 constexpr uint16_t kPidTime = 0x0014;
+constexpr uint16_t kPidSit = 0x001F; // the SIT of a recorded (partial) stream
 
 class Router {
 public:
@@ -78,9 +80,10 @@ public:
     const TCDVBLCNParser* Lcn() const { return m_lcn.get(); }
     const std::set<uint16_t>& LcnPids() const { return m_lcnPids; }
     const EitCollector& Events() const { return m_events; }
+    const TCSITParser* Sit() const { return m_sit.get(); }
 
 private:
-    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn };
+    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Sit };
 
     Kind m_KindOf(uint16_t pid, uint8_t tableId) const;
     TCSectionParser* m_Parser(Kind kind, uint8_t tableId);
@@ -102,6 +105,7 @@ private:
     std::set<uint16_t> m_lcnPids;
     std::set<uint8_t> m_timeTablesTaken;
     EitCollector m_events;
+    std::unique_ptr<TCSITParser> m_sit;
 
     std::map<TableKey, TableCounts> m_counts;
     uint64_t m_routed = 0;
