@@ -13,6 +13,7 @@
 #include "inspect/Describers.h"
 #include "inspect/EwsView.h"
 #include "inspect/Router.h"
+#include "inspect/SitView.h"
 #include "inspect/TsDemux.h"
 #include "operators/DescLogicalChannel.h"
 #include "psi/PATParser.h"
@@ -82,6 +83,7 @@ std::string TableName(uint16_t pid, uint8_t tableId)
     case 0x70: return "TDT";
     case 0x73: return "TOT";
     case 0x74: return "AIT";
+    case 0xD5: return "SIT";
     default: return "";
     }
 }
@@ -348,6 +350,7 @@ Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContex
             {"tot", b.Tot()},
             {"lcn", b.Lcn()},
             {"ews", EwsModel(router, b.text)},
+            {"sit", DescribeSit(router.Sit(), b.text)},
             {"summary", b.Summary()}};
 }
 

@@ -186,6 +186,16 @@ public:
             Object(1, "record", r);
     }
 
+    void Sit(const Json& sit)
+    {
+        if (sit.is_null())
+            return;
+        Line(0, "SIT  " + Value(sit["programCount"]) + " programs in the last section");
+        Descriptors(1, sit["descriptors"]);
+        for (const Json& p : sit["programs"])
+            Object(1, "program", p);
+    }
+
     void Summary(const Json& summary)
     {
         const Json& d = summary["demux"];
@@ -248,6 +258,7 @@ void RenderTree(const Json& model, std::ostream& out)
     tree.Times(model["tdt"], model["tot"]);
     tree.Lcn(model["lcn"]);
     RenderEwsTree(model["ews"], out);
+    tree.Sit(model["sit"]);
     tree.Summary(model["summary"]);
 }
 

@@ -28,6 +28,7 @@
 //   "lcn":     null | {"pids": [..], "header": [3 numbers],
 //                      "records": [{"key": [3 numbers], "channelNumber", "visible", "extra"}]},
 //   "ews":     null | the emergency warning table, schema in inspect/EwsView.h,
+//   "sit":     see SitView.h,
 //   "summary": {"demux": {"packetSize", "packets", "syncLosses", "skippedBytes", "truncatedPackets",
 //                         "continuityErrors", "transportErrors", "duplicates", "sections", "crcErrors",
 //                         "droppedSections", "unfinishedSections"},

@@ -10,6 +10,7 @@
 #include "dvb/DVBTOTParser.h"
 #include "inspect/TsDemux.h"
 #include "isdb/EWSParser.h"
+#include "program/SITParser.h"
 #include "psi/PATParser.h"
 #include "psi/PMTParser.h"
 
@@ -22,6 +23,7 @@ constexpr uint8_t kTidPmt = 0x02;
 constexpr uint8_t kTidLcn = 0x85;
 constexpr uint8_t kTidEws = 0x80;
 constexpr int kStreamTypePrivateSections = 0x05;
+constexpr uint8_t kTidSit = 0xD5;
 
 bool IsEit(uint8_t tableId)
 {
@@ -59,7 +61,8 @@ Router::~Router() = default;
 bool Router::Wants(uint16_t pid) const
 {
     return m_allPids || pid == kPidPat || pid == kPidNit || pid == kPidSdt || pid == kPidEit || pid == kPidTime ||
-           pid == kNoPid || m_pmtPids.count(pid) > 0 || pid == m_networkPid || m_privateSectionPids.count(pid) > 0;
+           pid == kPidSit || pid == kNoPid || m_pmtPids.count(pid) > 0 || pid == m_networkPid ||
+           m_privateSectionPids.count(pid) > 0;
 }
 
 Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
@@ -87,6 +90,8 @@ Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
         return Kind::Tot;
     if (tableId == kTidLcn)
         return Kind::Lcn;
+    if (tableId == kTidSit && (any || pid == kPidSit))
+        return Kind::Sit;
     return Kind::None;
 }
 
@@ -102,6 +107,7 @@ TCSectionParser* Router::m_Parser(Kind kind, uint8_t tableId)
     case Kind::Tot: return Lazy(m_tot, m_handle);
     case Kind::Lcn: return Lazy(m_lcn, m_handle);
     case Kind::Ews: return Lazy(m_ews);
+    case Kind::Sit: return Lazy(m_sit, static_cast<int>(tableId), m_handle);
     case Kind::None: break;
     }
     return nullptr;
@@ -175,6 +181,7 @@ std::string Router::ParserName(uint16_t pid, uint8_t tableId) const
     case Kind::Tot: return "TCDVBTOTParser";
     case Kind::Lcn: return "TCDVBLCNParser";
     case Kind::Ews: return "TCEWSParser";
+    case Kind::Sit: return "TCSITParser";
     case Kind::None: break;
     }
     return std::string();
@@ -218,6 +225,7 @@ std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
     case Kind::Tot: return m_timeTablesTaken.count(tableId) > 0;
     case Kind::Lcn: return m_lcn && m_lcn->IsRecv();
     case Kind::Ews: return m_ews && m_ews->IsValidTRDW() && m_ews->IsValidTCDW() && m_ews->IsValidTMDW();
+    case Kind::Sit: return m_sit && m_sit->IsRecv();
     case Kind::None: break;
     }
     return std::nullopt;

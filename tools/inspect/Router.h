@@ -30,6 +30,7 @@ class TCDVBTDTParser;
 class TCDVBTOTParser;
 class TCDVBLCNParser;
 class TCEWSParser;
+class TCSITParser;
 
 namespace zuminspect {
 
@@ -38,6 +39,7 @@ constexpr uint16_t kPidNit = 0x0010;
 constexpr uint16_t kPidSdt = 0x0011;
 constexpr uint16_t kPidEit = 0x0012;
 constexpr uint16_t kPidTime = 0x0014;
+constexpr uint16_t kPidSit = 0x001F; // the SIT of a recorded (partial) stream
 
 class Router {
 public:
@@ -83,8 +85,10 @@ public:
     const TCEWSParser* Ews() const { return m_ews.get(); }
     const std::set<uint16_t>& EwsPids() const { return m_ewsPids; }
 
+    const TCSITParser* Sit() const { return m_sit.get(); }
+
 private:
-    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews };
+    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit };
 
     Kind m_KindOf(uint16_t pid, uint8_t tableId) const;
     TCSectionParser* m_Parser(Kind kind, uint8_t tableId);
@@ -110,6 +114,7 @@ private:
     std::unique_ptr<TCEWSParser> m_ews;
     std::set<uint16_t> m_privateSectionPids; // streams of type 0x05 in a PMT
     std::set<uint16_t> m_ewsPids;
+    std::unique_ptr<TCSITParser> m_sit;
 
     std::map<TableKey, TableCounts> m_counts;
     uint64_t m_routed = 0;
