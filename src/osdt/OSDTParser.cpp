@@ -17,7 +17,7 @@ namespace {
 namespace xml = boost::property_tree::xml_parser;
 using Tables = boost::property_tree::detail::rapidxml::internal::lookup_tables<0>;
 
-const std::string kAttributes = "<xmlattr>";
+constexpr char kAttributes[] = "<xmlattr>";
 
 // The character classes of the XML reader itself, so that the depth probe
 // below reads the text exactly as it does.
