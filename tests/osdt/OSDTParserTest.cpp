@@ -226,7 +226,7 @@ TEST(OSDTParser, MalformedDocumentsThrowAndKeepTheFormerList)
         std::string document;
         const char* outcome;
     };
-    const std::vector<Case> cases = {
+    std::vector<Case> cases = {
         {"<IPServiceList><IPService></IPServiceList>", "bad xml"},
         {"text outside", "bad xml"},
         {List(Service("<UniqueIdentifier DomainName=\"d\"/>")), "bad path"},
@@ -237,21 +237,19 @@ TEST(OSDTParser, MalformedDocumentsThrowAndKeepTheFormerList)
         {List(Service("<LCN LCN=\"1\" selectable=\"yes\"/>")), "bad data"},
         {List(Service("<TargetRegions><AccessibleOutOfRegion>maybe</AccessibleOutOfRegion></TargetRegions>")), "bad data"},
         {List(Service("<ServiceName>News</ServiceName>")), "bad path"},
-        {List(Service("<ServiceLocation><DRMControlInformation><DRMContentID/><DRMGenericData/><DRMPrivateData/>"
-                      "</DRMControlInformation></ServiceLocation>")), "bad path"},
-        {List(Service("<ServiceLocation><DRMControlInformation><DRMSystemID/><DRMGenericData/><DRMPrivateData/>"
-                      "</DRMControlInformation></ServiceLocation>")), "bad path"},
-        {List(Service("<ServiceLocation><DRMControlInformation><DRMSystemID/><DRMContentID/><DRMPrivateData/>"
-                      "</DRMControlInformation></ServiceLocation>")), "bad path"},
-        {List(Service("<ServiceLocation><DRMControlInformation><DRMSystemID/><DRMContentID/><DRMGenericData/>"
-                      "</DRMControlInformation></ServiceLocation>")), "bad path"},
-        {List(Service("<ServiceLocation><DRMControlInformation><x:DRMSystemID/><DRMContentID/><DRMGenericData/>"
-                      "<DRMPrivateData/></DRMControlInformation></ServiceLocation>")), "bad path"},
         {List(Service(audio + "<Coding href=\"h\"><tva:Name>n</tva:Name></Coding></AudioAttributes>" + end)), "bad path"},
         {List(Service(audio + "<tva:Coding><tva:Name>n</tva:Name></tva:Coding></AudioAttributes>" + end)), "bad path"},
         {List(Service(video + "<tva:Coding href=\"h\"><Name>n</Name></tva:Coding></VideoAttributes>" + end)), "bad path"},
         {List(Service(audio + Coding("a") + "</AudioAttributes>" + end) + Service("<LCN/>")), "bad path"},
     };
+    // Each required DRM child missing in turn, then one with a prefix on a path element.
+    for (const auto& [from, to] : std::vector<std::pair<std::string, std::string>>{
+             {"<DRMSystemID>sys</DRMSystemID>", ""}, {"<DRMContentID>cid</DRMContentID>", ""}, {"<DRMGenericData/>", ""},
+             {"<DRMPrivateData/>", ""}, {"<DRMSystemID>sys</DRMSystemID>", "<x:DRMSystemID>sys</x:DRMSystemID>"}}) {
+        std::string drm = Drm("");
+        drm.replace(drm.find(from), from.size(), to);
+        cases.push_back({List(Service("<ServiceLocation>" + drm + "</ServiceLocation>")), "bad path"});
+    }
     TCOSDTParser parser;
     ASSERT_EQ(Outcome(parser, List(Service("<UniqueIdentifier ServiceName=\"kept\"/>"))), "ok");
     for (const Case& c : cases) {
