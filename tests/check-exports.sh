@@ -11,8 +11,9 @@ if [ "$soname" != "libzum-parser.so.$major" ]; then
     exit 1
 fi
 
-# Rule: an exported symbol belongs to a TC/TT/TS/I class (members, vtable, typeinfo) or is named below; weak std:: and compiler-made instances are tolerated.
-named='^(_TCParserAssert|PrintSignalMessage|PrintXmlFormat|CEXTEventLinkageInfo|CSSULinkLoop|CSSUInfoLoop)$'
+# Rule: an exported symbol belongs to a TC/TT/TS/I class (members, vtable, typeinfo) or is named below; weak std:: and
+# compiler-made instances are tolerated, and so are weak boost:: ones (the exception types Boost marks visible).
+named='^(_TCParserAssert|PrintSignalMessage|PrintXmlFormat|CEXTEventLinkageInfo|CSSULinkLoop|CSSUInfoLoop|OSDT)$'
 
 # Sets scope to the outermost scope of a mangled name: its class, namespace or free function.
 owner() {
@@ -42,7 +43,7 @@ for i in "${!syms[@]}"; do
         :
     elif [[ $scope =~ ^(TC|TT|TS|I)[A-Z] || $scope =~ $named ]]; then
         continue
-    elif [[ $type =~ ^[WVu]$ && ($scope == std || $scope == __gnu_cxx) ]]; then
+    elif [[ $type =~ ^[WVu]$ && ($scope == std || $scope == __gnu_cxx || $scope == boost) ]]; then
         continue
     elif [[ $type =~ ^[WVu]$ && ${syms[$i]} =~ ^_ZT[IS] && $scope == "?"* ]]; then
         continue  # typeinfo of a pointer, reference or function type, made by -fsanitize

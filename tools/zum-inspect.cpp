@@ -16,6 +16,7 @@
 
 #include <zum-platform/PlatformConfig.h>
 
+#include "inspect/OsdtView.h"
 #include "inspect/Renderers.h"
 #include "inspect/Session.h"
 
@@ -34,6 +35,7 @@ const char kUsage[] =
     "  --operator N        receiver operator number\n"
     "  --pds 0xNNNNNNNN    receiver private data specifier\n"
     "  --language xxx      receiver language, three letters (e.g. eng)\n"
+    "  --osdt FILE         read FILE as an XML IP service list and print its services\n"
     "  --all-pids          collect sections on every PID, not only the SI PIDs and the\n"
     "                      PMT PIDs of the PAT, and take a PMT on any PID\n"
     "  --quiet-progress    no progress line on standard error\n"
@@ -43,6 +45,7 @@ const char kUsage[] =
 struct Options {
     zuminspect::InspectSettings settings;
     std::string path = "-";
+    std::string osdtPath;
     bool json = false;
     bool quietProgress = false;
     bool verbose = false;
@@ -84,6 +87,8 @@ std::optional<Options> ParseCommandLine(int argc, char** argv, int& exitCode)
             o.settings.allPids = true;
         } else if (arg == "-v") {
             o.verbose = true;
+        } else if (arg == "--osdt" && hasValue) {
+            o.osdtPath = argv[++i];
         } else if (arg == "--country" && hasValue && IsCode(argv[i + 1], 3)) {
             o.settings.country = argv[++i];
         } else if (arg == "--language" && hasValue && IsCode(argv[i + 1], 2)) {
@@ -153,6 +158,8 @@ int main(int argc, char** argv)
     zum_platform::SetBinder(zuminspect::BinderSettingsFor(options->settings));
     if (options->verbose)
         zum_platform::SetLogThreshold(kLogDebug);
+    if (!options->osdtPath.empty())
+        return zuminspect::InspectOsdt(options->osdtPath, options->json, std::cout, std::cerr);
 
     const bool fromStdin = options->path == "-";
     FILE* file = fromStdin ? stdin : std::fopen(options->path.c_str(), "rb");

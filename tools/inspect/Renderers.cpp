@@ -245,6 +245,11 @@ void RenderJson(const Json& model, std::ostream& out)
     out << model.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
 }
 
+void RenderObject(const std::string& head, const Json& fields, int depth, std::ostream& out)
+{
+    Tree(out).Object(depth, head, fields);
+}
+
 void RenderTree(const Json& model, std::ostream& out)
 {
     Tree tree(out);

@@ -43,6 +43,7 @@
 // else {"tag", "class", "raw": "hex bytes"}.
 
 #include <ostream>
+#include <string>
 
 #include "inspect/Json.h"
 
@@ -51,6 +52,9 @@ namespace zuminspect {
 void RenderJson(const Json& model, std::ostream& out);
 // The same model as an indented tree for reading.
 void RenderTree(const Json& model, std::ostream& out);
+// One object as the tree shows it: scalars on the head line, lists and
+// objects indented below; for models of other inputs.
+void RenderObject(const std::string& head, const Json& fields, int depth, std::ostream& out);
 
 } // namespace zuminspect
 
