@@ -1,5 +1,6 @@
 #include "PATParser.h"
 
+#include "../core/ByteReader.h"
 #include "../core/Log.h"
 
 TCPATParser::TCPATParser(const ZUMHandle& handle) : TCSectionParser(0x00, handle) {}
@@ -43,8 +44,9 @@ int TCPATParser::ProgramNumber(unsigned int index) const
 
 int TCPATParser::ProgramPID(unsigned short programNumber) const
 {
-    const auto it = m_programList.find(programNumber);
-    return it == m_programList.end() ? -1 : it->second.pid;
+    // The entry inserted first: find may answer any of equal keys.
+    const auto it = m_programList.lower_bound(programNumber);
+    return it == m_programList.end() || it->first != programNumber ? -1 : it->second.pid;
 }
 
 void TCPATParser::t_AddProgram(unsigned short programNumber, short pid)
@@ -73,8 +75,8 @@ bool TCPATParser::t_Parse(const unsigned char* body, int /*length*/)
         const int count = (m_sectionLength - 9) / 4;
         for (int i = 0; i < count; ++i) {
             const unsigned char* entry = body + i * 4;
-            const unsigned short programNumber = static_cast<unsigned short>((entry[0] << 8) | entry[1]);
-            const short pid = static_cast<short>(((entry[2] & 0x1F) << 8) | entry[3]);
+            const unsigned short programNumber = static_cast<unsigned short>(ReadBE16(entry));
+            const short pid = static_cast<short>(ReadBE16(entry + 2) & 0x1FFF);
             t_AddProgram(programNumber, pid);
             ZUM_LOGD("Program Number[%d]", programNumber);
             ZUM_LOGD("PMT PID[%d]", pid);
