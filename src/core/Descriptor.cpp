@@ -14,6 +14,7 @@
 #include "DescConfPSIP.h"
 #include "ByteReader.h"
 #include "Diagnostics.h"
+#include "PrivateTag.h"
 
 namespace {
 
@@ -191,7 +192,7 @@ bool TCDescriptorDVB::t_CheckAddingDesc(int tag, const unsigned char* data, unsi
         pds = m_currentPDS;
         return true;
     }
-    if (tag >= 0x80 && tag <= 0xFE) {
+    if (IsPrivateTag(tag)) {
         IBinder* pBinder = IBinder::Instance();
         if (!ZUM_ASSERT(pBinder))
             return false;
