@@ -3,8 +3,10 @@
 
 // Hands every section from the demultiplexer to the parser of its table id,
 // the way a receiver's section filters would: the PAT on PID 0 names the PMT
-// and network PIDs, the DVB SI tables come on their well-known PIDs. Counts
-// what went where, so that no section is lost without a trace.
+// and network PIDs, the DVB SI tables come on their well-known PIDs. A file of
+// sections has no PIDs: a table id that several tables share goes to a parser
+// only when the receiver's country and the section's shape leave one reading.
+// Counts what went where, so that no section is lost without a trace.
 
 #include <cstddef>
 #include <cstdint>
@@ -83,6 +85,10 @@ private:
     enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn };
 
     Kind m_KindOf(uint16_t pid, uint8_t tableId) const;
+    // As above, deciding a shared table id of a file of sections by country and section shape.
+    Kind m_KindOfSection(uint16_t pid, const uint8_t* section, size_t size) const;
+    // The kind that the summary names for a table.
+    Kind m_KindFor(uint16_t pid, uint8_t tableId) const;
     TCSectionParser* m_Parser(Kind kind, uint8_t tableId);
     void m_LearnPids();
 
@@ -103,6 +109,8 @@ private:
     std::set<uint8_t> m_timeTablesTaken;
     EitCollector m_events;
 
+    // Without PIDs, the kind that sections of a shared table id went to.
+    std::map<uint8_t, Kind> m_sharedKinds;
     std::map<TableKey, TableCounts> m_counts;
     uint64_t m_routed = 0;
     uint64_t m_noParser = 0;
