@@ -1,5 +1,7 @@
 #include "inspect/TableIds.h"
 
+#include "core/BroadcastCountries.h"
+
 namespace zuminspect {
 
 namespace {
@@ -22,18 +24,9 @@ BroadcastSystem SystemOf(ECountryCode country, unsigned int operatorId)
     switch (country) {
     case ZumPackCode('K', 'O', 'R'):
     case ZumPackCode('U', 'S', 'A'): return BroadcastSystem::Atsc;
-    case ZumPackCode('J', 'P', 'N'):
-    case ZumPackCode('A', 'R', 'G'):
-    case ZumPackCode('B', 'O', 'L'):
-    case ZumPackCode('B', 'R', 'A'):
-    case ZumPackCode('C', 'H', 'L'):
-    case ZumPackCode('E', 'Q', 'U'):
-    case ZumPackCode('P', 'A', 'R'):
-    case ZumPackCode('P', 'E', 'R'):
-    case ZumPackCode('U', 'R', 'U'):
-    case ZumPackCode('c', 'r', 'i'): return BroadcastSystem::Isdb;
+    case ZumPackCode('J', 'P', 'N'): return BroadcastSystem::Isdb;
     case ZumPackCode('P', 'H', 'L'): return operatorId == 113 ? BroadcastSystem::Isdb : BroadcastSystem::Dvb;
-    default: return BroadcastSystem::Dvb;
+    default: return IsISDBCountry(country) ? BroadcastSystem::Isdb : BroadcastSystem::Dvb;
     }
 }
 
