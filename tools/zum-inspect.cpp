@@ -38,6 +38,10 @@ const char kUsage[] =
     "  --osdt FILE         read FILE as an XML IP service list and print its services\n"
     "  --all-pids          collect sections on every PID, not only the SI PIDs and the\n"
     "                      PMT PIDs of the PAT, and take a PMT on any PID\n"
+    "  --charset NAME      table of text without a selector byte: ISO-8859-N, ISO6937,\n"
+    "                      or country (what the country's broadcasters send, e.g.\n"
+    "                      ISO-8859-15 in FRA and ITA); default: ISO6937 in DVB\n"
+    "                      countries, the country's own table where its rules give one\n"
     "  --quiet-progress    no progress line on standard error\n"
     "  -v                  library log lines from DEBUG up on standard error\n"
     "  --help              this text\n";
@@ -46,6 +50,7 @@ struct Options {
     zuminspect::InspectSettings settings;
     std::string path = "-";
     std::string osdtPath;
+    std::string charset;
     bool json = false;
     bool quietProgress = false;
     bool verbose = false;
@@ -93,6 +98,8 @@ std::optional<Options> ParseCommandLine(int argc, char** argv, int& exitCode)
             o.settings.country = argv[++i];
         } else if (arg == "--language" && hasValue && IsCode(argv[i + 1], 2)) {
             o.settings.language = argv[++i];
+        } else if (arg == "--charset" && hasValue && zuminspect::IsKnownCharset(argv[i + 1])) {
+            o.charset = argv[++i];
         } else if (arg == "--operator" && hasValue && ParseNumber(argv[i + 1], o.settings.operatorId)) {
             ++i;
         } else if (arg == "--pds" && hasValue && ParseNumber(argv[i + 1], o.settings.privateDataSpecifier)) {
@@ -156,6 +163,7 @@ int main(int argc, char** argv)
         return exitCode;
 
     zum_platform::SetBinder(zuminspect::BinderSettingsFor(options->settings));
+    zum_platform::SetTextSettings(zuminspect::TextSettingsFor(options->charset));
     if (options->verbose)
         zum_platform::SetLogThreshold(kLogDebug);
     if (!options->osdtPath.empty())

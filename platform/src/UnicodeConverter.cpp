@@ -1,5 +1,8 @@
 #include "zum-platform/UnicodeConverter.h"
 
+#include "zum-platform/Binder.h"
+#include "zum-platform/PlatformConfig.h"
+
 #include <iconv.h>
 
 #include <algorithm>
@@ -41,6 +44,17 @@ TTTextTable Iso8859Table(unsigned int part, size_t headerLength)
     return IconvTable("ISO-8859-" + std::to_string(part), headerLength);
 }
 
+// The table of text without a selector byte: ISO/IEC 6937 unless the
+// settings or the receiver's country give another.
+TTTextTable DefaultTable()
+{
+    const ECountryCode country = IBinder::Instance() ? zum_platform::Binder().countryCode : 0;
+    const std::string name = zum_platform::DefaultTableFor(country);
+    if (name.compare(0, 9, "ISO-8859-") == 0)
+        return IconvTable(name, 0);
+    return {ETableKind::Latin6937, std::string(), 0, 1};
+}
+
 // The one place that maps the leading bytes of a text to its table. A system
 // with a coding of its own (ARIB 8-unit text, told by country or language)
 // would branch off here before the selector is read.
@@ -48,7 +62,7 @@ TTTextTable SelectTable(const unsigned char* text, size_t length, ELanguageCode 
 {
     const unsigned char first = text[0];
     if (first >= 0x20)
-        return {ETableKind::Latin6937, std::string(), 0, 1};
+        return DefaultTable();
     if (first >= 0x01 && first <= 0x0B)
         return Iso8859Table(first + 4u, 1);
     switch (first) {

@@ -1,5 +1,6 @@
 #include "BaseCheckSection.h"
 
+#include "ByteReader.h"
 #include "Diagnostics.h"
 
 TCBaseCheckSection::~TCBaseCheckSection() = default;
@@ -11,11 +12,9 @@ bool TCBaseCheckSection::SetData(const unsigned char* pData, int len)
     const unsigned char* data = pData;
     m_tableId = data[0];
     m_length = static_cast<unsigned short>(((t_At(data, len, 1) & 0x0F) << 8) | t_At(data, len, 2));
-    // The fingerprint is the last four bytes; a shorter body gives what it has.
-    unsigned int crc = 0;
-    for (int i = len >= 4 ? len - 4 : 0; i < len; ++i)
-        crc = (crc << 8) | data[i];
-    m_crc = crc;
+    // The fingerprint is the last four bytes; for a body of 1 to 3 bytes they
+    // reach back into the section's own header, which lies in front of `data`.
+    m_crc = ReadBE32(data + len - 4);
     return true;
 }
 

@@ -114,9 +114,10 @@ bool TCBaseSection::IsRecvSegment(int firstSegment, int lastSegment) const
         ZUM_LOGD("TCBaseSection::IsValid, m_pMultiSectionFlag is NULL");
         return false;
     }
-    const int from = std::max(0, std::min(firstSegment * 8, m_lastSection));
-    const int to = std::min(lastSegment * 8 + 8, m_lastSection + 1);
-    for (int s = from; s < to; ++s) {
+    // In 64 bits, so that no segment number overflows the section arithmetic.
+    const long long from = std::max(0LL, std::min(firstSegment * 8LL, static_cast<long long>(m_lastSection)));
+    const long long to = std::min(lastSegment * 8LL + 8, m_lastSection + 1LL);
+    for (long long s = from; s < to; ++s) {
         if (!m_pMultiSectionFlag[s])
             return false;
     }

@@ -77,7 +77,7 @@ inline int CountRecords(const unsigned char* data, int size, int head, int lengt
 {
     int count = 0;
     for (int at = 0; at + lengthAt + 2 <= size; ++count)
-        at += head + (((data[at + lengthAt] & 0x0F) << 8) | data[at + lengthAt + 1]);
+        at += head + static_cast<int>(ReadBE16(data + at + lengthAt) & 0x0FFF);
     return count;
 }
 

@@ -17,15 +17,7 @@
 #include "../operators/DescLogicalChannel.h"
 #include "../operators/DescLogicalChannelV2.h"
 #include "Diagnostics.h"
-
-namespace {
-
-bool IsPrivateTag(int tag)
-{
-    return tag >= 0x80 && tag <= 0xFE;
-}
-
-} // namespace
+#include "PrivateTag.h"
 
 TCDescConfDVB::TCDescConfDVB(const ZUMHandle& handle) : m_handle(handle) {}
 

@@ -9,6 +9,7 @@
 #include "../dvb/DescPrivateDataSpecifier.h"
 #include "../dvb/DescServiceMove.h"
 #include "../isdb/DescEmergencyInformation.h"
+#include "PrivateTag.h"
 
 TCBaseDesc* TCDescConfPSIBase::NewDescriptor(int tag, const unsigned char* /*data*/, unsigned int /*pds*/)
 {
@@ -40,7 +41,7 @@ TCBaseDesc* TCDescConfPsiDVB::NewDescriptor(int tag, const unsigned char* data, 
 
 TCBaseDesc* TCDescConfPsiDVB::t_ProcessPrivateDesc(int tag, unsigned int pds)
 {
-    if (tag < 0x80 || tag > 0xFE)
+    if (!IsPrivateTag(tag))
         return nullptr;
     if (pds == 0x46534154)
         return m_NewFSatPrivateDesc(tag, pds);

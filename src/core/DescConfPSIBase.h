@@ -17,17 +17,18 @@ public:
     explicit TCDescConfPsiDVB(const ZUMHandle& handle);
     TCBaseDesc* NewDescriptor(int tag, const unsigned char* data, unsigned int pds) override;
 
+private:
+    // The operators' private rows, in this slot order in front of t_ProcessPrivateDesc.
+    virtual TCBaseDesc* m_NewFSatPrivateDesc(int tag, unsigned int pds);
+    virtual TCBaseDesc* m_NewCHNPrivateDesc(int tag, unsigned int pds);
+    virtual TCBaseDesc* m_NewTKGSPrivateDesc(int tag, unsigned int pds);
+
 protected:
     using TCDescConfBase::t_ProcessPrivateDesc;
     // Reached only for tags 0x98, 0xA0, 0xD0 and 0xD1.
     virtual TCBaseDesc* t_ProcessPrivateDesc(int tag, unsigned int pds);
 
     ZUMHandle m_handle;
-
-private:
-    TCBaseDesc* m_NewFSatPrivateDesc(int tag, unsigned int pds);
-    TCBaseDesc* m_NewCHNPrivateDesc(int tag, unsigned int pds);
-    TCBaseDesc* m_NewTKGSPrivateDesc(int tag, unsigned int pds);
 };
 
 class ZUM_EXPORT TCDescConfPsiISDB : public TCDescConfPsiDVB {

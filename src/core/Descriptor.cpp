@@ -12,8 +12,10 @@
 #include "DescConfDVB.h"
 #include "DescConfPSIBase.h"
 #include "DescConfPSIP.h"
+#include "BroadcastCountries.h"
 #include "ByteReader.h"
 #include "Diagnostics.h"
+#include "PrivateTag.h"
 
 namespace {
 
@@ -191,7 +193,7 @@ bool TCDescriptorDVB::t_CheckAddingDesc(int tag, const unsigned char* data, unsi
         pds = m_currentPDS;
         return true;
     }
-    if (tag >= 0x80 && tag <= 0xFE) {
+    if (IsPrivateTag(tag)) {
         IBinder* pBinder = IBinder::Instance();
         if (!ZUM_ASSERT(pBinder))
             return false;
@@ -295,26 +297,6 @@ TCDescConfBase* TCDescriptorKR::t_GetDescConf(unsigned char tableId)
 }
 
 // ---------------------------------------------------------------- country switch
-
-namespace {
-
-bool IsISDBCountry(ECountryCode code)
-{
-    switch (code) {
-    case ZumPackCode('A', 'R', 'G'):
-    case ZumPackCode('B', 'O', 'L'):
-    case ZumPackCode('B', 'R', 'A'):
-    case ZumPackCode('C', 'H', 'L'):
-    case ZumPackCode('E', 'Q', 'U'):
-    case ZumPackCode('P', 'A', 'R'):
-    case ZumPackCode('P', 'E', 'R'):
-    case ZumPackCode('U', 'R', 'U'):
-    case ZumPackCode('c', 'r', 'i'): return true;
-    default: return false;
-    }
-}
-
-} // namespace
 
 TCDescriptor::TCDescriptor(const ZUMHandle& handle) : m_handle(handle)
 {

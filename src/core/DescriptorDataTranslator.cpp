@@ -9,7 +9,8 @@ TCDescriptorDataTranslator::TCDescriptorDataTranslator(const unsigned char* data
 
 uint64_t TCDescriptorDataTranslator::GetBits(int count)
 {
-    if (count < 1 || m_position + count > m_bitCount)
+    // Counted against the bits left, so that no count overflows the sum.
+    if (count < 1 || count > m_bitCount - m_position)
         return 0;
     uint64_t value = 0;
     for (int i = 0; i < count; ++i) {
@@ -22,7 +23,7 @@ uint64_t TCDescriptorDataTranslator::GetBits(int count)
 
 void TCDescriptorDataTranslator::SkipBits(int count)
 {
-    const int target = m_position + count;
+    const long long target = static_cast<long long>(m_position) + count;
     if (target < 0 || target >= m_bitCount)
         return;
     m_position = static_cast<unsigned short>(target);

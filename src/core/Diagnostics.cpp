@@ -29,7 +29,7 @@ AssertFiles& Files()
     return files;
 }
 
-void m_WriteReport(FILE* out, const char* expression, const char* file, unsigned int line)
+void WriteReport(FILE* out, const char* expression, const char* file, unsigned int line)
 {
     char name[17] = {0};
     prctl(PR_GET_NAME, name, 0, 0, 0);
@@ -52,7 +52,7 @@ void m_WriteReport(FILE* out, const char* expression, const char* file, unsigned
     }
 }
 
-void m_Sleep100ms()
+void Sleep100ms()
 {
     timespec remaining{0, 100 * 1000 * 1000};
     while (nanosleep(&remaining, &remaining) == -1 && errno == EINTR) {
@@ -85,7 +85,7 @@ void _TCParserAssert(const char* expression, const char* file, unsigned int line
     const int console = open(Files().console.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC);
 
     if (console >= 0 && saved >= 0 && dup2(console, STDOUT_FILENO) >= 0) {
-        m_WriteReport(stdout, expression, file, line);
+        WriteReport(stdout, expression, file, line);
         std::fflush(stdout);
         dup2(saved, STDOUT_FILENO);
     }
@@ -101,7 +101,7 @@ void _TCParserAssert(const char* expression, const char* file, unsigned int line
     if (stat(Files().release.c_str(), &st) == 0)
         return;
 
-    m_Sleep100ms();
+    Sleep100ms();
     std::terminate();
 }
 

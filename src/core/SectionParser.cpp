@@ -25,10 +25,10 @@ bool TCSectionParser::t_CheckPSIPTable(unsigned char /*tableId*/)
 
 bool TCSectionParser::Parse(short pid, const unsigned char* data)
 {
+    // A refused section counts as an entry too, a null one included.
+    m_isParsed = true;
     if (!data)
         return false;
-
-    m_isParsed = true;
     m_pid = pid;
     m_pData = data;
     m_tableId = data[0];

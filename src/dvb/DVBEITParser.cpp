@@ -123,7 +123,7 @@ int TCDVBEITItemEvent::Parse(const unsigned char* data, int tableId, unsigned ch
 {
     if (!data)
         return 0;
-    const int loopLength = ((data[10] & 0x0F) << 8) | data[11];
+    const int loopLength = static_cast<int>(ReadBE16(data + 10) & 0x0FFF);
     return Parse(data, kHeaderLength + loopLength, tableId, flag);
 }
 
@@ -132,16 +132,19 @@ int TCDVBEITItemEvent::Parse(const unsigned char* data, int length, int tableId,
     DeleteAll();
     m_tableId = tableId;
     m_flag = flag;
-    if (!data || length < kHeaderLength)
+    if (!data || length < 1)
         return 0;
 
-    m_eventId = ReadBE16(data);
-    m_startTime = AllBitsSet(data + 2, 5) ? 0xFFFFFFFFu : TCDescLocalTimeOffset::ConvertDVBtimetoATSCtime(data + 2);
-    m_duration = AllBitsSet(data + 7, 3) ? 0xFFFFFFu : ConvertBCDtoSec(data + 7);
-    m_runningStatus = (data[10] >> 5) & 0x07;
-    m_freeCaMode = (data[10] >> 4) & 0x01;
-    const int loopLength = ((data[10] & 0x0F) << 8) | data[11];
-    // A loop that runs past the event bytes keeps what is there.
+    // A header cut by the end of the bytes reads the rest as 0.
+    unsigned char head[kHeaderLength] = {};
+    std::memcpy(head, data, static_cast<size_t>(std::min(length, kHeaderLength)));
+    m_eventId = static_cast<unsigned short>(ReadBE16(head));
+    m_startTime = AllBitsSet(head + 2, 5) ? 0xFFFFFFFFu : TCDescLocalTimeOffset::ConvertDVBtimetoATSCtime(head + 2);
+    m_duration = AllBitsSet(head + 7, 3) ? 0xFFFFFFu : ConvertBCDtoSec(head + 7);
+    m_runningStatus = (head[10] >> 5) & 0x07;
+    m_freeCaMode = (head[10] >> 4) & 0x01;
+    const int loopLength = static_cast<int>(ReadBE16(head + 10) & 0x0FFF);
+    // A loop that runs past the bytes keeps what is there.
     const int kept = std::min(loopLength, length - kHeaderLength);
     if (kept > 0) {
         m_pDescriptors.reset(new unsigned char[kept]);
@@ -194,7 +197,8 @@ bool TCDVBEITItem::ExtractCompressed(const unsigned char* source, unsigned int s
 {
     if (!source || !target || !targetLength)
         return false;
-    uLongf size = std::min<uLongf>(*targetLength, kMaxEventBytes);
+    // The target always holds 4096 bytes; *targetLength is an output only.
+    uLongf size = kMaxEventBytes;
     const int rc = uncompress(target, &size, source, sourceLength);
     // One try only: a loop that does not fit the buffer is not taken.
     if (rc == Z_BUF_ERROR || size > kMaxEventBytes) {
@@ -239,22 +243,24 @@ bool TCDVBEITItem::m_Parse(const unsigned char* section, int length, int tableId
 
     const unsigned char* events = section + kSectionHeadBytes;
     int size = length - kSectionHeadBytes - kCrcBytes;
+    // How far an event may be read: to the section's end, CRC_32 included, or
+    // to the end of what the loop decompressed to.
+    int reach = size + kCrcBytes;
     unsigned char buffer[kMaxEventBytes];
     if (IsCompressedTable(tableId)) {
         if (size < 1)
             return false;
-        unsigned int extracted = sizeof buffer;
+        unsigned int extracted = 0;
         if (!ExtractCompressed(events, static_cast<unsigned int>(size), buffer, &extracted))
             return false;
         events = buffer;
-        size = static_cast<int>(extracted);
+        size = reach = static_cast<int>(extracted);
     }
 
-    int position = 0;
-    // A tail too short for an event header is not an event.
-    while (size - position >= TCDVBEITItemEvent::kHeaderLength) {
+    // Any tail of the loop makes an event, read as far as the bytes reach.
+    for (int position = 0; position < size;) {
         m_events.push_back(std::make_unique<TCDVBEITItemEvent>(m_handle));
-        position += m_events.back()->Parse(events + position, size - position, tableId, 0);
+        position += m_events.back()->Parse(events + position, reach - position, tableId, 0);
     }
     return true;
 }

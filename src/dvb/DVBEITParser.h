@@ -67,8 +67,8 @@ public:
     // `data` is the event record, which must hold its whole descriptor loop.
     // Answers the bytes of the record: 12 plus the loop length.
     int Parse(const unsigned char* data, int tableId, unsigned char flag);
-    // As above, reading no more than `length` bytes: a loop that runs past
-    // them is kept as far as it goes. Needs `length` of at least 12.
+    // As above, reading no more than `length` bytes: header bytes past them
+    // read as 0, and a loop that runs past them is kept as far as it goes.
     int Parse(const unsigned char* data, int length, int tableId, unsigned char flag);
     // Six BCD digits hhmmss as seconds.
     unsigned int ConvertBCDtoSec(const unsigned char* data) const;
@@ -121,8 +121,8 @@ public:
     int NumOfDVBEITItemEvent() const;
     TCDVBEITItemEvent* DVBEITItemEvent(unsigned int index) const;
     bool FindDVBEitEvent(unsigned short eventId) const;
-    // zlib stream into at most 4096 bytes of `target` (fewer when
-    // *targetLength says so); *targetLength becomes the size.
+    // zlib stream into `target`, which holds 4096 bytes; *targetLength is
+    // output only and becomes the size.
     static bool ExtractCompressed(const unsigned char* source, unsigned int sourceLength, unsigned char* target,
                                   unsigned int* targetLength);
 

@@ -4,6 +4,7 @@
 
 #include "../core/ByteReader.h"
 #include "../core/Descriptor.h"
+#include "../core/SectionItems.h"
 #include "../operators/DescLogicalChannel.h"
 #include "../operators/DescLogicalChannelV2.h"
 
@@ -20,24 +21,31 @@ TCDVBItemMux::TCDVBItemMux(unsigned short tableId, const ZUMHandle& handle) : m_
 
 int TCDVBItemMux::Parse(const unsigned char* data)
 {
-    return m_Parse(data, INT_MAX);
+    return m_Parse(data, INT_MAX, INT_MAX);
 }
 
 int TCDVBItemMux::Parse(const unsigned char* data, int remaining)
 {
-    if (remaining < 1)
-        return 0;
-    return m_Parse(data, remaining);
+    return Parse(data, remaining, remaining);
 }
 
-int TCDVBItemMux::m_Parse(const unsigned char* data, int remaining)
+int TCDVBItemMux::Parse(const unsigned char* data, int remaining, int reach)
+{
+    if (remaining < 1)
+        return 0;
+    return m_Parse(data, remaining, std::max(remaining, reach));
+}
+
+int TCDVBItemMux::m_Parse(const unsigned char* data, int remaining, int reach)
 {
     DeleteAll();
-    // Header bytes behind the loop's end are not read; the fields stay 0.
-    auto at = [data, remaining](int i) { return i < remaining ? data[i] : 0; };
-    m_transportStreamId = static_cast<unsigned short>((at(0) << 8) | at(1));
-    m_originalNetworkId = static_cast<unsigned short>((at(2) << 8) | at(3));
-    const int loopLength = ((at(4) & 0x0F) << 8) | at(5);
+    // Header bytes are read as they stand as far as the bytes reach; behind
+    // that they read as 0.
+    unsigned char head[kMuxHeaderSize] = {};
+    std::copy(data, data + std::min(reach, kMuxHeaderSize), head);
+    m_transportStreamId = static_cast<unsigned short>(ReadBE16(head));
+    m_originalNetworkId = static_cast<unsigned short>(ReadBE16(head + 2));
+    const int loopLength = static_cast<int>(ReadBE16(head + 4) & 0x0FFF);
     const int available = std::max(0, remaining - kMuxHeaderSize);
     // Each mux's loop starts without a specifier, as every loop does.
     TCDescriptor loop(m_handle);
@@ -139,25 +147,25 @@ bool TCDVBNITInstance::Parse(const unsigned char* body, int length, char version
 void TCDVBNITInstance::m_Parse(const unsigned char* body, int length, int section)
 {
     const int end = length - 4;
-    const int networkLength = length >= 2 ? ((body[0] & 0x0F) << 8) | body[1] : 0;
+    const int networkLength = length >= 2 ? static_cast<int>(ReadBE16(body) & 0x0FFF) : 0;
     // Network descriptors of all sections collect in one container; a loop
     // longer than the section is read up to the CRC_32.
     TCDescriptor loop(m_handle);
     loop.Parse(body + 2, std::min(networkLength, std::max(0, end - 2)), m_descriptors, m_tableId);
 
-    // A section parsed again (after RemoveSection) replaces its muxes.
+    // A section parsed again (after RemoveSection) appends its muxes, as it
+    // does its network descriptors: nothing a caller holds is freed before
+    // the next version.
     std::vector<std::unique_ptr<TCDVBItemMux>>& muxes = m_muxesBySection[static_cast<unsigned char>(section)];
-    muxes.clear();
-    if (networkLength + 4 < end)
-        muxes.reserve(CountRecords(body + networkLength + 4, end - networkLength - 4, kMuxHeaderSize, 4));
-    for (int position = networkLength + 4; position < end;) {
-        muxes.emplace_back(new TCDVBItemMux(m_tableId, m_handle));
-        position += muxes.back()->Parse(body + position, end - position);
+    const int first = networkLength + 4;
+    if (first < end)
+        muxes.reserve(muxes.size() + CountRecords(body + first, end - first, kMuxHeaderSize, 4));
+    for (int position = first; position < end;) {
+        muxes.push_back(std::make_unique<TCDVBItemMux>(m_tableId, m_handle));
+        // The header of a short last entry reads on into the CRC_32.
+        position += muxes.back()->Parse(body + position, end - position, length - position);
     }
-    m_muxes.clear();
-    for (const auto& entry : m_muxesBySection)
-        for (const auto& mux : entry.second)
-            m_muxes.push_back(mux.get());
+    FlattenBySection(m_muxesBySection, m_muxes);
 }
 
 TCDVBItemMux* TCDVBNITInstance::DVBItemMuxOfIndex(unsigned int index) const
@@ -219,7 +227,7 @@ bool TCDVBNITParser::t_Parse(const unsigned char* body, int length)
         if (instance->IsValid())
             m_CheckAllSubtableReceived();
     } else {
-        instance.reset(new TCDVBNITInstance(m_tableId, m_tableIdExtension, m_handle));
+        instance = std::make_unique<TCDVBNITInstance>(m_tableId, m_tableIdExtension, m_handle);
     }
     return instance->Parse(body, length, m_versionNumber, m_sectionNumber, m_lastSectionNumber, m_crc,
                            m_currentNextIndicator != 0);

@@ -26,6 +26,9 @@ public:
     int Parse(const unsigned char* data);
     // 0 when `remaining` is below 1; the loop is read no further than `remaining`.
     int Parse(const unsigned char* data, int remaining);
+    // As above; the header is read as far as `reach` (at least `remaining`)
+    // bytes, such as a CRC_32 behind the loop.
+    int Parse(const unsigned char* data, int remaining, int reach);
     void DeleteAll() { m_descriptors.DeleteAll(); }
 
     unsigned short TransportStreamId() const { return m_transportStreamId; }
@@ -37,7 +40,7 @@ public:
                                                  bool anyCountry) const;
 
 private:
-    int m_Parse(const unsigned char* data, int remaining);
+    int m_Parse(const unsigned char* data, int remaining, int reach);
 
     ZUMHandle m_handle;
     unsigned short m_tableId;

@@ -1,10 +1,12 @@
 #include "DVBSDTParser.h"
 
 #include <algorithm>
+#include <climits>
 #include <iterator>
 
 #include "../core/ByteReader.h"
 #include "../core/Descriptor.h"
+#include "../core/SectionItems.h"
 
 namespace {
 
@@ -17,15 +19,20 @@ constexpr int kServiceHeaderSize = 5;
 
 TCDVBSDTItemService::TCDVBSDTItemService(const ZUMHandle& handle) : m_handle(handle) {}
 
+int TCDVBSDTItemService::Parse(const unsigned char* data)
+{
+    return Parse(data, INT_MAX);
+}
+
 int TCDVBSDTItemService::Parse(const unsigned char* data, int remaining)
 {
     DeleteAll();
-    m_serviceId = static_cast<unsigned short>((data[0] << 8) | data[1]);
+    m_serviceId = static_cast<unsigned short>(ReadBE16(data));
     m_eitScheduleFlag = (data[2] >> 1) & 0x01;
     m_eitPresentFollowingFlag = data[2] & 0x01;
     m_runningStatus = (data[3] >> 5) & 0x07;
     m_freeCaMode = (data[3] >> 4) & 0x01;
-    const int loopLength = ((data[3] & 0x0F) << 8) | data[4];
+    const int loopLength = static_cast<int>(ReadBE16(data + 3) & 0x0FFF);
     // A loop that claims more than the section holds is read up to its end.
     const int available = std::max(0, remaining - kServiceHeaderSize);
     TCDescriptor loop(m_handle);
@@ -72,21 +79,19 @@ void TCDVBSDTInstance::t_Parse(const unsigned char* body, int length)
     // limit stays three bytes short of its end, and an entry takes five.
     const int loopEnd = length - 1;
     const int limit = length - 4;
-    // A section parsed again (after RemoveSection) replaces its services.
+    // A section parsed again (after RemoveSection) adds its services behind
+    // those it brought before: no service that a caller may hold is freed
+    // before the next version.
     std::vector<std::unique_ptr<TCDVBSDTItemService>>& services = m_servicesBySection[m_sectionNumber];
-    services.clear();
     if (limit >= 4) {
-        services.reserve(CountRecords(body + 3, loopEnd - 3, 5, 3));
+        services.reserve(services.size() + CountRecords(body + 3, loopEnd - 3, kServiceHeaderSize, 3));
         int position = 3;
         while (position < limit) {
-            services.emplace_back(new TCDVBSDTItemService(m_handle));
+            services.push_back(std::make_unique<TCDVBSDTItemService>(m_handle));
             position += services.back()->Parse(body + position, loopEnd - position);
         }
     }
-    m_services.clear();
-    for (const auto& entry : m_servicesBySection)
-        for (const auto& service : entry.second)
-            m_services.push_back(service.get());
+    FlattenBySection(m_servicesBySection, m_services);
 }
 
 TCDVBSDTItemService* TCDVBSDTInstance::DVBSDTItemServiceOfIndex(unsigned int index) const
@@ -126,11 +131,11 @@ void TCDVBSDTParser::t_Initialize()
 bool TCDVBSDTParser::t_Parse(const unsigned char* body, int length)
 {
     m_lastTransportStreamId = m_tableIdExtension;
-    m_lastOriginalNetworkId = length >= 2 ? static_cast<unsigned short>((body[0] << 8) | body[1]) : 0xFFFF;
+    m_lastOriginalNetworkId = length >= 2 ? static_cast<unsigned short>(ReadBE16(body)) : 0xFFFF;
     const TTNetworkKey key{m_lastOriginalNetworkId, m_lastTransportStreamId};
     std::unique_ptr<TCDVBSDTInstance>& instance = m_instances[key];
     if (!instance)
-        instance.reset(new TCDVBSDTInstance(m_handle));
+        instance = std::make_unique<TCDVBSDTInstance>(m_handle);
     return instance->Parse(body, length - 3, m_lastTransportStreamId, m_lastOriginalNetworkId, m_versionNumber,
                            m_sectionNumber, m_lastSectionNumber, m_crc, m_currentNextIndicator != 0);
 }

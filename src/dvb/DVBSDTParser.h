@@ -1,7 +1,6 @@
 #ifndef ZUM_DVB_DVBSDTPARSER_H
 #define ZUM_DVB_DVBSDTPARSER_H
 
-#include <climits>
 #include <map>
 #include <memory>
 #include <vector>
@@ -38,10 +37,10 @@ class ZUM_EXPORT TCDVBSDTItemService : public TCDescriptorHashOwner {
 public:
     explicit TCDVBSDTItemService(const ZUMHandle& handle);
 
-    // Returns the bytes the entry takes (descriptors_loop_length + 5). With
-    // `remaining`, the descriptor loop is read no further than that many bytes
-    // from `data`.
-    int Parse(const unsigned char* data, int remaining = INT_MAX);
+    // Returns the bytes the entry takes (descriptors_loop_length + 5).
+    int Parse(const unsigned char* data);
+    // As above, reading the descriptor loop no further than `remaining` bytes from `data`.
+    int Parse(const unsigned char* data, int remaining);
     void DeleteAll() { m_descriptors.DeleteAll(); }
 
     unsigned short ServiceId() const { return m_serviceId; }

@@ -1,5 +1,8 @@
 #include "DVBTOTParser.h"
 
+#include <algorithm>
+
+#include "../core/ByteReader.h"
 #include "../core/Descriptor.h"
 #include "../core/Diagnostics.h"
 #include "DescLocalTimeOffset.h"
@@ -7,6 +10,7 @@
 namespace {
 
 const int kLocalTimeOffsetTag = 0x58;
+const int kUtcTimeSize = 5;
 // UTC_time (5 bytes), then reserved bits and descriptors_loop_length.
 const int kLoopStart = 7;
 
@@ -38,16 +42,17 @@ bool TCDVBTOTParser::GetLocalTimeOffsetDescList(std::list<TCBaseDesc*>* pDescLis
 
 bool TCDVBTOTParser::t_Parse(const unsigned char* body, int length)
 {
-    // Without the loop length there is nothing to read safely.
-    if (length < kLoopStart)
-        return false;
     // Only the last section's descriptors stand.
     DeleteAll();
-    m_time = TCDescLocalTimeOffset::ConvertDVBtimetoATSCtime(body);
-    int loopLength = ((body[5] & 0x0F) << 8) | body[6];
+    // UTC_time is read as far as the section reaches; bytes behind its end read as 0.
+    unsigned char utc[kUtcTimeSize] = {};
+    std::copy(body, body + std::max(0, std::min(length, kUtcTimeSize)), utc);
+    m_time = TCDescLocalTimeOffset::ConvertDVBtimetoATSCtime(utc);
+    // Without room for the loop length there is no loop.
+    if (length < kLoopStart)
+        return true;
     // A loop that claims more than the section holds is cut at its end.
-    if (loopLength > length - kLoopStart)
-        loopLength = length - kLoopStart;
+    const int loopLength = std::min(static_cast<int>(ReadBE16(body + 5) & 0x0FFF), length - kLoopStart);
     TCDescriptor descriptor(m_handle);
     descriptor.Parse(body + kLoopStart, loopLength, m_descriptors, m_tableId);
     return true;

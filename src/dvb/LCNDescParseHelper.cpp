@@ -1,10 +1,12 @@
 #include "LCNDescParseHelper.h"
 
+#include "../core/ByteReader.h"
+
 namespace {
 
 unsigned short NumberOf(const unsigned char* entry, unsigned char highMask)
 {
-    return static_cast<unsigned short>(((entry[2] & highMask) << 8) | entry[3]);
+    return static_cast<unsigned short>(ReadBE16(entry + 2) & ((highMask << 8) | 0xFFu));
 }
 
 bool TopBit(const unsigned char* entry)
@@ -16,7 +18,7 @@ bool TopBit(const unsigned char* entry)
 
 unsigned short ILCNDescParseHelper::GetServiceId(const unsigned char* entry) const
 {
-    return static_cast<unsigned short>((entry[0] << 8) | entry[1]);
+    return static_cast<unsigned short>(ReadBE16(entry));
 }
 
 bool TCLCNDescParseHelper_EBook::GetVisibleFlag(const unsigned char* entry) const

@@ -2,6 +2,7 @@
 
 #include <iterator>
 
+#include "../core/ByteReader.h"
 #include "../core/Descriptor.h"
 #include "../core/Diagnostics.h"
 
@@ -19,11 +20,11 @@ int TCPMTElementary::Parse(const unsigned char* data, int remaining)
 {
     // An entry with fewer than five bytes in front of the CRC_32 takes its
     // fields from the bytes at hand; they all lie inside the section.
-    m_esInfoLength = ((data[3] & 0x0F) << 8) | data[4];
+    m_esInfoLength = static_cast<int>(ReadBE16(data + 3) & 0x0FFF);
     if (remaining != 0 && remaining < m_esInfoLength + 5)
         m_esInfoLength = remaining - 5;
     m_streamType = data[0];
-    m_elementary_PID = static_cast<unsigned short>(((data[1] & 0x1F) << 8) | data[2]);
+    m_elementary_PID = static_cast<unsigned short>(ReadBE16(data + 1) & 0x1FFF);
 
     TCDescriptor loop(m_handle);
     loop.Parse(data + 5, m_esInfoLength, m_descriptors, kPmtTableId);
@@ -73,7 +74,7 @@ bool TCPMTInstance::Parse(const unsigned char* body, int length, unsigned short 
     m_currentNextIndicator = currentNext;
     m_sectionNumber = static_cast<unsigned char>(section);
     m_lastSectionNumber = static_cast<unsigned char>(last);
-    m_pcrPid = length >= 2 ? static_cast<unsigned short>(((body[0] & 0x1F) << 8) | body[1]) : 0xFFFF;
+    m_pcrPid = length >= 2 ? static_cast<unsigned short>(ReadBE16(body) & 0x1FFF) : 0xFFFF;
 
     const int result = t_CheckVersion(version, section, last, crc);
     if (result == TABLE_IGNORE) {
@@ -88,7 +89,7 @@ bool TCPMTInstance::Parse(const unsigned char* body, int length, unsigned short 
 
 bool TCPMTInstance::m_Parse(const unsigned char* data, int length)
 {
-    m_programInfoLength = length >= 2 ? static_cast<unsigned short>(((data[0] & 0x0F) << 8) | data[1]) : 0;
+    m_programInfoLength = length >= 2 ? static_cast<unsigned short>(ReadBE16(data) & 0x0FFF) : 0;
     if (length - 5 <= m_programInfoLength) {
         ZUM_LOGD("TCPMTInstance::m_Parse, m_programInfoLength[%d] Error", m_programInfoLength);
         return false;
@@ -99,7 +100,7 @@ bool TCPMTInstance::m_Parse(const unsigned char* data, int length)
     const unsigned char* p = data + 2 + m_programInfoLength;
     int remaining = length - m_programInfoLength - 6;
     while (remaining > 0) {
-        m_elementaries.emplace_back(new TCPMTElementary(m_handle));
+        m_elementaries.push_back(std::make_unique<TCPMTElementary>(m_handle));
         const int n = m_elementaries.back()->Parse(p, remaining);
         p += n;
         remaining -= n;
@@ -165,7 +166,7 @@ bool TCPMTParser::t_Parse(const unsigned char* body, int length)
 
     std::unique_ptr<TCPMTInstance>& slot = m_instances[m_tableIdExtension];
     if (!slot)
-        slot.reset(new TCPMTInstance(m_pid, m_handle));
+        slot = std::make_unique<TCPMTInstance>(m_pid, m_handle);
     if (!slot->Parse(body, length, m_tableIdExtension, m_versionNumber, m_sectionNumber, m_lastSectionNumber, m_crc,
                      m_currentNextIndicator != 0))
         return false;

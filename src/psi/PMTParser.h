@@ -95,7 +95,11 @@ public:
     // Only sections whose PMTKey(pid, program) is a key of `elements` pass.
     void UpdatePMTElements(std::map<int, int>& elements);
     void ClearPMTElements();
-    static int PMTKey(int pid, int programNumber) { return (pid << 16) | programNumber; }
+    // In unsigned arithmetic, so that a PID of 0x8000 and above shifts cleanly.
+    static constexpr int PMTKey(int pid, int programNumber)
+    {
+        return static_cast<int>((static_cast<unsigned int>(pid) << 16) | static_cast<unsigned int>(programNumber));
+    }
 
     bool IsChannelListUpdateRequired() const { return m_channelListUpdateRequired; }
     unsigned short LastProgramNumber() const { return m_lastProgramNumber; }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <list>
 #include <memory>
 #include <tuple>
@@ -196,6 +197,9 @@ TEST(DescriptorDataTranslator, BitsBytesAndBounds)
     EXPECT_EQ(u.GetBits(3), 0x5u);
     EXPECT_EQ(u.GetBits(0), 0u);
     EXPECT_EQ(u.GetBits(14), 0u); // 3 + 14 > 16: refused, position kept
+    EXPECT_EQ(u.GetBits(INT_MAX), 0u);
+    u.SkipBits(INT_MAX);
+    u.SkipBits(INT_MIN);
     EXPECT_EQ(u.GetUInt8(), 0xA5);
     EXPECT_EQ(u.GetBits(8), 0x3Cu);
     zumtest::LogCapture log;

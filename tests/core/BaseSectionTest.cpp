@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <string>
 #include <vector>
 
@@ -133,6 +134,9 @@ TEST(BaseSection, SegmentsOfEightSections)
         big.Check(1, s, 20, 0);
     EXPECT_TRUE(big.IsRecvSegment(1, 1));
     EXPECT_FALSE(big.IsRecvSegment(0, 1) || big.IsRecvSegment(2, 2));
+    // Segment numbers far past the table are bounded by its last section (20, missing).
+    EXPECT_FALSE(big.IsRecvSegment(INT_MAX, INT_MAX));
+    EXPECT_TRUE(big.IsRecvSegment(1, INT_MIN));
 }
 
 // Each record compares the fields it takes from the body behind the short header.
@@ -164,13 +168,21 @@ TEST(BaseCheckSection, RecordsCompareByTheirFields)
     }
 
     zumtest::LogCapture log;
-    TCBaseCheckSection rec, same;
+    TCBaseCheckSection rec;
     const unsigned char one[] = {0x42};
     EXPECT_FALSE(rec.SetData(nullptr, 4) || rec.SetData(one, 0) || rec.FlagEqual(nullptr));
     EXPECT_TRUE(log.Contains("ASSERT!, Func:SetData, Line:"));
     EXPECT_TRUE(log.Contains("Failed: pData && len > 0"));
     EXPECT_TRUE(log.Contains("Func:FlagEqual"));
-    // A one-byte body is read no further than its end.
-    EXPECT_TRUE(rec.SetData(one, 1) && same.SetData(one, 1));
-    EXPECT_TRUE(rec.FlagEqual(&same));
+    // A body of 1 to 3 bytes takes its fingerprint from the last four bytes,
+    // which reach back into the section's header in front of the body.
+    const unsigned char sectionA[] = {0xC4, 0xF0, 0x02, 0x42, 0x00};
+    const unsigned char sectionB[] = {0xC4, 0xF0, 0x03, 0x42, 0x00};
+    for (int len : {1, 2}) {
+        SCOPED_TRACE(len);
+        TCBaseCheckSection a, a2, b;
+        EXPECT_TRUE(a.SetData(sectionA + 3, len) && a2.SetData(sectionA + 3, len) && b.SetData(sectionB + 3, len));
+        EXPECT_TRUE(a.FlagEqual(&a2));
+        EXPECT_FALSE(a.FlagEqual(&b)); // only the header byte in front of the body differs
+    }
 }

@@ -90,3 +90,34 @@ TEST(DescConf, FallbacksByFactoryAndTag)
         EXPECT_EQ(log.Contains("Failed: pBinder"), c.binder == kNoBinderAsserts);
     }
 }
+
+// The operators' rows of the PMT factory are virtual: a platform subclass
+// answers for its operator, and the dispatch reaches it.
+TEST(DescConf, PsiPrivateRowsAreVirtual)
+{
+    struct Probe : TCDescConfPsiDVB {
+        Probe() : TCDescConfPsiDVB(ZUMHandle()) {}
+        std::string reached;
+        TCBaseDesc* m_NewFSatPrivateDesc(int tag, unsigned int) override { return m_Mark("FSat", tag); }
+        TCBaseDesc* m_NewCHNPrivateDesc(int tag, unsigned int) override { return m_Mark("CHN", tag); }
+        TCBaseDesc* m_NewTKGSPrivateDesc(int tag, unsigned int) override { return m_Mark("TKGS", tag); }
+        TCBaseDesc* m_Mark(const char* name, int tag) { reached = name; return new TCDescDefault(tag); }
+    };
+    const struct { unsigned pds, binderPds; ECountry country; const char* reached; } cases[] = {
+        {0x46534154, 0, ECOUNTRY_NONE, "FSat"},
+        {0, 0x011FFFFF, ECOUNTRY_TURKEY, "TKGS"},
+        {0, 0, ECOUNTRY_CHINA, "CHN"},
+        {0x28, 0, ECOUNTRY_CHINA, ""},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.reached);
+        zumtest::BinderScope binder;
+        binder->privateDataSpecifier = c.binderPds;
+        binder->country = c.country;
+        Probe probe;
+        const unsigned char raw[] = {0xA0, 1, 0x08};
+        std::unique_ptr<TCBaseDesc> d(static_cast<TCDescConfBase&>(probe).NewDescriptor(0xA0, raw, c.pds));
+        EXPECT_EQ(probe.reached, c.reached);
+        EXPECT_EQ(d != nullptr, *c.reached != '\0');
+    }
+}

@@ -13,6 +13,7 @@
 #include <zum-platform/Dlog.h>
 
 #include "dvb/DVBEITParser.h"
+#include "dvb/DescLocalTimeOffset.h"
 #include "support/LogCapture.h"
 #include "support/SectionBuilder.h"
 
@@ -186,16 +187,27 @@ TEST(DVBEITItem, DecodesTheEventsOfOneSection)
     ByteWriter overlong;
     overlong.U16(2).Raw(Start(60369, 0x10, 0x00, 0x00)).Raw({0x00, 0x10, 0x00}).U16(0x8FFF).Raw({0x54, 0x02, 0x11});
     const Bytes& o = overlong.Data();
+    // A tail of the event loop reads on into the CRC_32 and stops at the section's end.
+    const Bytes whole = Eit({}, Concat({first, o})), cut11 = Eit({}, Concat({first, Bytes(o.begin(), o.begin() + 11)})),
+                cut12 = Eit({}, Concat({first, Bytes(o.begin(), o.begin() + 12)})),
+                cut4 = Eit({}, Concat({first, Bytes(o.begin(), o.begin() + 4)}));
+    const auto crc = [](const Bytes& s, int from) { return Bytes(s.end() - 4 + from, s.end()); };
+    const unsigned hoursOfDuration = ((cut4[cut4.size() - 1] >> 4) * 10 + (cut4[cut4.size() - 1] & 0x0F)) * 3600;
     const struct { const char* what; Bytes section; std::vector<Decoded> events; bool result; } cases[] = {
         {"all fields", Eit({0x4E, 3, 0, 0, 0, 0x0101, 1, 0x4F},
                            Events({{0x1234, Start(60369, 0x12, 0x34, 0x56), {0x01, 0x30, 0x00}, 4, 1, loop},
                                    {1, kUndefinedStart, {0xFF, 0xFF, 0xFF}, 7, 0}})),
          {{0x1234, kLeapDay + 45296, 5400, 4, 1, loop}, {1, 0xFFFFFFFF, 0xFFFFFF, 7, 0, {}}}, true},
-        {"loop longer than the section", Eit({}, Concat({first, o})),
-         {one, {2, kLeapDay + 36000, 600, 4, 0, {0x54, 0x02, 0x11}}}, true},
-        {"header cut at 11 bytes", Eit({}, Concat({first, Bytes(o.begin(), o.begin() + 11)})), {one}, true},
-        {"header of 12 bytes and no loop", Eit({}, Concat({first, Bytes(o.begin(), o.begin() + 12)})),
-         {one, {2, kLeapDay + 36000, 600, 4, 0, {}}}, true},
+        {"loop longer than the section", whole,
+         {one, {2, kLeapDay + 36000, 600, 4, 0, Concat({{0x54, 0x02, 0x11}, crc(whole, 0)})}}, true},
+        {"header cut at 11 bytes", cut11,
+         {one, {2, kLeapDay + 36000, 600, 4, 0, crc(cut11, 1)}}, true},
+        {"header of 12 bytes", cut12, {one, {2, kLeapDay + 36000, 600, 4, 0, crc(cut12, 0)}}, true},
+        // Event id and MJD in the loop, the hours in the CRC_32, the rest past the section: read as 0.
+        {"header cut at 4 bytes", cut4,
+         {one, {2, TCDescLocalTimeOffset::ConvertDVBtimetoATSCtime(Concat({Bytes(o.begin() + 2, o.begin() + 4),
+                                                                           crc(cut4, 0)}).data()),
+                hoursOfDuration, 0, 0, {}}}, true},
         // Times go through the shared conversion; the duration's BCD has no limits of its own.
         {"undefined", timed(kUndefinedStart, {0xFF, 0xFF, 0xFF}), at(0xFFFFFFFF, 0xFFFFFF), true},
         {"hours 25", timed(Start(60369, 0x25, 0, 0), {0x25, 0, 0x60}), at(0, 90060), true},
@@ -283,7 +295,7 @@ TEST(DVBEITItem, CompressedLoopsUpTo4096Bytes)
         {"0x7F is plain", 0x7F, two, 2, 0x0A02, nullptr},
         {"0xA0 is plain", 0xA0, two, 2, 0x0A02, nullptr},
         {"exactly 4096", 0x81, zumtest::Deflate(all), 16, 0x10F, nullptr},
-        {"ends inside an event header", 0x81, zumtest::Deflate(Concat({fifteen, Bytes(11, 0)})), 15, 0x10E, nullptr},
+        {"ends inside an event header", 0x81, zumtest::Deflate(Concat({fifteen, {0x0B, 0x01}})), 16, 0x0B01, nullptr},
         {"one byte over 4096", 0x81, zumtest::Deflate(Concat({all, {0}})), 0, 0,
          R"(\[TCDVBEITItem Error\] Z_BUF_ERROR ExtractCompressed line:\d+ rc=-5 bufferSize=4096)"},
         {"corrupt header", 0x80, corrupt, 0, 0,
@@ -311,6 +323,19 @@ TEST(DVBEITItem, CompressedLoopsUpTo4096Bytes)
         const std::vector<std::string> lines = log.Lines();
         EXPECT_TRUE(c.line ? lines.size() == 1 && std::regex_match(lines[0], std::regex(c.line)) : lines.empty())
             << testing::PrintToString(lines);
+    }
+}
+
+// The target holds 4096 bytes whatever *targetLength says on entry.
+TEST(DVBEITItem, ExtractCompressedTakesNoCapacity)
+{
+    const Bytes plain(300, 0x5A), packed = zumtest::Deflate(plain);
+    Bytes target(TCDVBEITItem::kMaxEventBytes);
+    for (unsigned int entry : {0u, 10u, 0xFFFFFFFFu}) {
+        unsigned int size = entry;
+        EXPECT_TRUE(TCDVBEITItem::ExtractCompressed(packed.data(), static_cast<unsigned int>(packed.size()),
+                                                    target.data(), &size));
+        EXPECT_EQ(Bytes(target.begin(), target.begin() + size), plain);
     }
 }
 

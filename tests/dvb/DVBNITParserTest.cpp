@@ -118,6 +118,45 @@ TEST(DVBNITParser, SectionsOutOfOrderAndCompleteCount)
     EXPECT_EQ(count, 2u);
 }
 
+// A section offered again after RemoveSection appends its muxes, as it does its
+// network descriptors; what a caller holds stays valid until the next version.
+TEST(DVBNITParser, SectionParsedAgainAppends)
+{
+    zumtest::BinderScope binder;
+    TCDVBNITParser nit(0x40, ZUMHandle());
+    const Bytes s0 = Nit(0x40, 9, 1, 0, 1, Desc(0x40, {'A'}), {{0x10, 1, {}}, {0x11, 1, {}}});
+    nit.Parse(0x10, s0.data());
+    nit.Parse(0x10, Nit(0x40, 9, 1, 1, 1, {}, {{0x20, 1, {}}}).data());
+    TCDVBNITInstance* instance = nit.GetInstance(9);
+    const TCDVBItemMux* held = instance->DVBItemMuxOfIndex(0);
+    EXPECT_TRUE(instance->RemoveSection(0));
+    EXPECT_TRUE(nit.Parse(0x10, s0.data()));
+    EXPECT_EQ(Tsids(instance), (std::vector<unsigned>{0x10, 0x11, 0x10, 0x11, 0x20}));
+    EXPECT_EQ(instance->NumOfDescriptors(0x40), 2);
+    EXPECT_EQ(instance->DVBItemMuxOfIndex(0), held);
+    EXPECT_EQ(held->TransportStreamId(), 0x10);
+}
+
+// The header of a short last entry is read as it stands where it lies in the
+// CRC_32; only its loop, which would leave the section, is dropped.
+TEST(DVBNITParser, ShortLastEntryReadsIntoTheCrc)
+{
+    zumtest::BinderScope binder;
+    zumtest::SectionBuilder b(zumtest::LongHeader(0x40, 5));
+    b.Begin16(12).End().Begin16(12).U16(0x44).U16(0x55).Begin16(12).Raw(Desc(0x40, {'N'})).End().U16(0x1234).End();
+    const Bytes s = b.Build();
+    const unsigned crcHigh = s[s.size() - 4] << 8 | s[s.size() - 3];
+    ASSERT_NE(crcHigh, 0u); // else the test could not tell the bytes from zeros
+    TCDVBNITParser nit(0x40, ZUMHandle());
+    EXPECT_TRUE(nit.Parse(0x10, s.data()));
+    ASSERT_EQ(nit.NumOfDVBItemMux(0), 2);
+    const TCDVBItemMux* last = nit.DVBItemMuxOfIndex(1, 0);
+    EXPECT_EQ(last->TransportStreamId(), 0x1234);
+    EXPECT_EQ(last->OriginalNetworkId(), crcHigh);
+    EXPECT_EQ(last->NumOfDescriptors(), 0);
+    EXPECT_EQ(nit.DVBItemMuxOfIndex(0, 0)->NumOfDescriptors(), 1);
+}
+
 // The actual table answers for its first network whatever the id asked; the other table for the id asked.
 TEST(DVBNITParser, SelectionByTableId)
 {

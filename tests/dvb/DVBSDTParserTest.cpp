@@ -119,6 +119,38 @@ TEST(DVBSDTParser, SectionsInAnyOrderAndVersionChange)
     }
 }
 
+// A section offered again after RemoveSection adds its services behind those
+// it brought before: nothing a caller holds is freed before the next version.
+TEST(DVBSDTParser, SectionParsedAgainAppends)
+{
+    zumtest::BinderScope binder;
+    TCDVBSDTParser sdt(0x42, ZUMHandle());
+    const Bytes s0 = Sdt(0x42, 0x2000, 0x0440, 1, 0, 1, {{10}, {11}});
+    sdt.Parse(0x11, s0.data());
+    sdt.Parse(0x11, Sdt(0x42, 0x2000, 0x0440, 1, 1, 1, {{20}}).data());
+    TCDVBSDTInstance* instance = sdt.DVBSDTInstance(0x0440, 0x2000);
+    const TCDVBSDTItemService* held = instance->DVBSDTItemServiceOfIndex(0);
+    EXPECT_TRUE(instance->RemoveSection(0));
+    EXPECT_TRUE(sdt.Parse(0x11, s0.data()));
+    EXPECT_EQ(Ids(instance), (std::vector<unsigned>{10, 11, 10, 11, 20}));
+    EXPECT_EQ(instance->DVBSDTItemServiceOfIndex(0), held);
+    EXPECT_EQ(held->ServiceId(), 10);
+    EXPECT_EQ(instance->IndexOfDVBSDTItemServiceBySID(20), 4);
+}
+
+// The entry parser keeps the one-argument form beside the bounded one.
+TEST(DVBSDTParser, ServiceEntryParseForms)
+{
+    zumtest::BinderScope binder;
+    const Bytes entry = zumtest::Concat({{0x00, 0x07, 0xFD, 0x80, 0x07}, kServiceDesc});
+    int (TCDVBSDTItemService::*whole)(const unsigned char*) = &TCDVBSDTItemService::Parse;
+    TCDVBSDTItemService a{ZUMHandle()}, b{ZUMHandle()};
+    EXPECT_EQ((a.*whole)(entry.data()), 12);
+    EXPECT_EQ(b.Parse(entry.data(), 8), 12); // the loop cut after 3 bytes loses the descriptor
+    EXPECT_EQ(std::make_tuple(a.ServiceId(), a.NumOfDescriptors(0x48), b.NumOfDescriptors()),
+              std::make_tuple(7, 1, 0));
+}
+
 TEST(DVBSDTParser, OtherTableKeepsInstancesApart)
 {
     zumtest::BinderScope binder;

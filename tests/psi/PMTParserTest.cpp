@@ -87,6 +87,9 @@ TEST(PMTParser, ProgramsFilterAndInitialize)
     // The filter keeps program 5 on PID 0x100 only.
     std::map<int, int> filter{{TCPMTParser::PMTKey(0x100, 5), 0}};
     EXPECT_EQ(TCPMTParser::PMTKey(0x100, 5), 0x01000005);
+    // Computed in unsigned arithmetic: no undefined shift for a PID of 0x8000 and above, or a negative one.
+    static_assert(TCPMTParser::PMTKey(0x8000, 5) == static_cast<int>(0x80000005u), "PID 0x8000");
+    static_assert(TCPMTParser::PMTKey(-1, 5) == static_cast<int>(0xFFFF0005u), "PID of short -1");
     pmt.UpdatePMTElements(filter);
     const Program five{5, 0, 0x20, {}, {{0x02, 0x21, {}}}}, six{6, 0, 0x30, {}, {{0x02, 0x31, {}}}};
     EXPECT_TRUE(pmt.Parse(0x100, Pmt(five).data()));

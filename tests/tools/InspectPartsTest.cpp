@@ -114,7 +114,8 @@ TEST(InspectRouter, RoutesLikeReceiverFiltersAndKeepsEventsOfTheCurrentVersion)
     };
     const std::vector<Case> beforePat = {
         {0x0000, 0x00, "TCPATParser"},    {0x0100, 0x02, ""},               {0x0012, 0x85, "TCDVBEITParser"},
-        {0x0030, 0x85, "TCDVBLCNParser"}, {kNoPid, 0x85, "TCDVBLCNParser"}, {kNoPid, 0x9F, "TCDVBEITParser"},
+        // Without a PID a shared table id names a parser only once a section decided it.
+        {0x0030, 0x85, "TCDVBLCNParser"}, {kNoPid, 0x85, ""},               {kNoPid, 0x9F, ""},
         {0x0011, 0x4A, ""},               {0x0011, 0x46, "TCDVBSDTParser"}, {0x0012, 0x42, ""},
         {0x0014, 0x73, "TCDVBTOTParser"}, {0x0020, 0x41, ""},               {0x0012, 0x70, ""},
     };

@@ -2,6 +2,7 @@
 
 #include <cxxabi.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <functional>
 #include <list>
@@ -136,9 +137,27 @@ Json MultilingualServiceName(const TCDescMultilingualServiceName& d, const TextD
 
 // ---- delivery systems ------------------------------------------------------
 
+// A frequency that the stream sends as all ones is marked "not given".
+template <class T>
+Json FrequencyOrNotGiven(T value, bool notGiven)
+{
+    return notGiven ? Json("not given") : Json(value);
+}
+
+// Whether the four payload bytes from `at` of the raw descriptor are all ones.
+bool AllOnesAt(const TCBaseDesc& d, int at)
+{
+    unsigned char raw[257];
+    int size = sizeof raw;
+    if (!d.GetDescriptor(raw, &size) || size < 2 + at + 4)
+        return false;
+    return std::all_of(raw + 2 + at, raw + 2 + at + 4, [](unsigned char b) { return b == 0xFF; });
+}
+
 Json SatelliteDelivery(const TCDescSatelliteDeliverySystem& d, const TextDecoder&)
 {
-    return {{"frequencyKHz", d.Frequency()},          {"symbolRateKsps", d.SymbolRate()},
+    return {{"frequencyKHz", FrequencyOrNotGiven(d.Frequency(), AllOnesAt(d, 0))},
+            {"symbolRateKsps", d.SymbolRate()},
             {"orbitalPosition", d.OrbitalPosition()}, {"east", d.WestEastFlag() != 0},
             {"polarization", d.Polarization()},       {"modulation", d.Modulation()},
             {"fecInner", d.FecInner()}};
@@ -146,13 +165,15 @@ Json SatelliteDelivery(const TCDescSatelliteDeliverySystem& d, const TextDecoder
 
 Json CableDelivery(const TCDescCableDeliverySystem& d, const TextDecoder&)
 {
-    return {{"frequencyKHz", d.Frequency()}, {"modulation", d.ModulationCode()}, {"symbolRateKsps", d.SymbolRate()},
+    return {{"frequencyKHz", FrequencyOrNotGiven(d.Frequency(), AllOnesAt(d, 0))},
+            {"modulation", d.ModulationCode()},
+            {"symbolRateKsps", d.SymbolRate()},
             {"fecOuter", d.FecOuter()},      {"fecInner", d.FecInner()}};
 }
 
 Json TerrestrialDelivery(const TCDescTerrestrialDeliverySystem& d, const TextDecoder&)
 {
-    return {{"centreFrequencyHz", 10ULL * d.CentreFrequency()},
+    return {{"centreFrequencyHz", FrequencyOrNotGiven(10ULL * d.CentreFrequency(), d.CentreFrequency() == 0xFFFFFFFF)},
             {"bandwidth", d.Bandwidth()},
             {"constellation", d.Constellation()},
             {"hierarchy", d.Hierarchy()},
@@ -168,8 +189,12 @@ Json T2Delivery(const TCDescT2SystemDelivery& d, const TextDecoder&)
     std::map<unsigned short, std::vector<unsigned int>> cells;
     d.GetCellIdMap(cells);
     Json cellList = Json::array();
-    for (const auto& cell : cells)
-        cellList.push_back({{"cellId", cell.first}, {"centreFrequencies", cell.second}});
+    for (const auto& cell : cells) {
+        Json frequencies = Json::array();
+        for (unsigned int f : cell.second)
+            frequencies.push_back(FrequencyOrNotGiven(f, f == 0xFFFFFFFF));
+        cellList.push_back({{"cellId", cell.first}, {"centreFrequencies", frequencies}});
+    }
     return {{"plpId", d.PlpId()},
             {"t2SystemId", d.T2SystemId()},
             {"sisoMiso", d.SisoMiso()},
@@ -185,7 +210,7 @@ Json FrequencyList(const TCDescFrequencyList& d, const TextDecoder&)
 {
     Json frequencies = Json::array();
     for (int i = 0; i < d.NumOfEntries(); ++i)
-        frequencies.push_back(d.CentreFrequency(i));
+        frequencies.push_back(FrequencyOrNotGiven(d.CentreFrequency(i), AllOnesAt(d, 1 + 4 * i)));
     return {{"codingType", d.CodingType()}, {"frequenciesMHz", frequencies}};
 }
 

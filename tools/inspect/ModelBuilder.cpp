@@ -14,6 +14,7 @@
 #include "inspect/EwsView.h"
 #include "inspect/Router.h"
 #include "inspect/SitView.h"
+#include "inspect/TableIds.h"
 #include "inspect/TsDemux.h"
 #include "operators/DescLogicalChannel.h"
 #include "psi/PATParser.h"
@@ -209,11 +210,13 @@ Json Builder::Sdts() const
 
 Json Builder::Event(const EitCollector::Event& event) const
 {
-    // Events keep their loop raw; it is decoded here as a guide would, under the event's table id.
+    // Events keep their loop raw; it is decoded here as a guide would, under the
+    // table id that the factories serve for the event's whole schedule family.
     TCDescriptorHash hash;
     TCDescriptor loop(context.handle);
     if (!event.descriptors.empty())
-        loop.Parse(event.descriptors.data(), static_cast<int>(event.descriptors.size()), hash, event.tableId);
+        loop.Parse(event.descriptors.data(), static_cast<int>(event.descriptors.size()), hash,
+                   EventLoopTableId(event.tableId));
     Json out = {{"tableId", HexId(event.tableId)},
                 {"section", event.section},
                 {"eventId", event.eventId},

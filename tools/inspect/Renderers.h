@@ -40,7 +40,8 @@
 // }
 //
 // D, a descriptor: {"tag", "class", "fields": {...}} when a describer knows the class,
-// else {"tag", "class", "raw": "hex bytes"}.
+// else {"tag", "class", "raw": "hex bytes"}. A frequency that the stream sends as
+// all ones (not given) is the string "not given" in place of its number.
 
 #include <ostream>
 #include <string>

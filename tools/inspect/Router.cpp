@@ -2,12 +2,15 @@
 
 #include <list>
 
+#include <zum-platform/Binder.h>
+
 #include "dvb/DVBEITParser.h"
 #include "dvb/DVBLCNParser.h"
 #include "dvb/DVBNITParser.h"
 #include "dvb/DVBSDTParser.h"
 #include "dvb/DVBTDTParser.h"
 #include "dvb/DVBTOTParser.h"
+#include "inspect/TableIds.h"
 #include "inspect/TsDemux.h"
 #include "isdb/EWSParser.h"
 #include "program/SITParser.h"
@@ -83,16 +86,44 @@ Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
         return Kind::Ews;
     // 0x85 is a compressed EIT on the EIT PID and the channel number table anywhere else.
     if (IsEit(tableId) && (pid == kPidEit || (any && tableId != kTidLcn)))
+    // 0x85 is a compressed EIT on the EIT PID and the channel number table
+    // anywhere else; without a PID the section decides (m_KindOfSection).
+    if (IsEit(tableId) && (pid == kPidEit || (any && !IsCompressedEitRange(tableId))))
         return Kind::Eit;
     if (tableId == 0x70 && (any || pid == kPidTime))
         return Kind::Tdt;
     if (tableId == 0x73 && (any || pid == kPidTime))
         return Kind::Tot;
-    if (tableId == kTidLcn)
+    if (tableId == kTidLcn && !any)
         return Kind::Lcn;
     if (tableId == kTidSit && (any || pid == kPidSit))
         return Kind::Sit;
     return Kind::None;
+}
+
+Router::Kind Router::m_KindOfSection(uint16_t pid, const uint8_t* section, size_t size) const
+{
+    const uint8_t tableId = section[0];
+    if (pid != kNoPid || !IsCompressedEitRange(tableId))
+        return m_KindOf(pid, tableId);
+    // Compressed EIT, the channel number table, the Astra SGT, ISDB conditional access ...:
+    // only a DVB receiver reads the first two, and the zlib stream tells the EIT.
+    IBinder* binder = IBinder::Instance();
+    const BroadcastSystem system =
+        binder ? SystemOf(binder->GetCountryCode(m_handle), binder->GetOperator(m_handle)) : BroadcastSystem::Dvb;
+    if (system != BroadcastSystem::Dvb)
+        return Kind::None;
+    if (HasCompressedEitShape(section, size))
+        return Kind::Eit;
+    return tableId == kTidLcn ? Kind::Lcn : Kind::None;
+}
+
+Router::Kind Router::m_KindFor(uint16_t pid, uint8_t tableId) const
+{
+    if (pid != kNoPid || !IsCompressedEitRange(tableId))
+        return m_KindOf(pid, tableId);
+    const auto it = m_sharedKinds.find(tableId);
+    return it == m_sharedKinds.end() ? Kind::None : it->second;
 }
 
 TCSectionParser* Router::m_Parser(Kind kind, uint8_t tableId)
@@ -122,7 +153,7 @@ void Router::OnSection(uint16_t pid, const uint8_t* section, size_t size)
     if ((section[1] & 0x80) != 0 && size >= 8)
         counts.versions.insert((section[5] >> 1) & 0x1F);
 
-    const Kind kind = m_KindOf(pid, tableId);
+    const Kind kind = m_KindOfSection(pid, section, size);
     TCSectionParser* parser = m_Parser(kind, tableId);
     if (parser == nullptr) {
         ++counts.noParser;
@@ -131,6 +162,8 @@ void Router::OnSection(uint16_t pid, const uint8_t* section, size_t size)
     }
     ++counts.routed;
     ++m_routed;
+    if (pid == kNoPid && IsCompressedEitRange(tableId))
+        m_sharedKinds.emplace(tableId, kind);
     const bool taken = parser->Parse(static_cast<short>(pid), section);
     if (kind == Kind::Pat)
         m_LearnPids();
@@ -171,7 +204,7 @@ void Router::m_LearnPids()
 
 std::string Router::ParserName(uint16_t pid, uint8_t tableId) const
 {
-    switch (m_KindOf(pid, tableId)) {
+    switch (m_KindFor(pid, tableId)) {
     case Kind::Pat: return "TCPATParser";
     case Kind::Pmt: return "TCPMTParser";
     case Kind::Nit: return "TCDVBNITParser";
@@ -189,7 +222,7 @@ std::string Router::ParserName(uint16_t pid, uint8_t tableId) const
 
 std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
 {
-    switch (m_KindOf(pid, tableId)) {
+    switch (m_KindFor(pid, tableId)) {
     case Kind::Pat: return m_pat && m_pat->IsRecv();
     case Kind::Pmt: {
         if (!m_pmt)

@@ -6,6 +6,10 @@
 // and network PIDs, the DVB SI tables come on their well-known PIDs, and a
 // PMT's private-section streams carry the emergency warning table. Counts
 // what went where, so that no section is lost without a trace.
+// and network PIDs, the DVB SI tables come on their well-known PIDs. A file of
+// sections has no PIDs: a table id that several tables share goes to a parser
+// only when the receiver's country and the section's shape leave one reading.
+// Counts what went where, so that no section is lost without a trace.
 
 #include <cstddef>
 #include <cstdint>
@@ -91,6 +95,10 @@ private:
     enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit };
 
     Kind m_KindOf(uint16_t pid, uint8_t tableId) const;
+    // As above, deciding a shared table id of a file of sections by country and section shape.
+    Kind m_KindOfSection(uint16_t pid, const uint8_t* section, size_t size) const;
+    // The kind that the summary names for a table.
+    Kind m_KindFor(uint16_t pid, uint8_t tableId) const;
     TCSectionParser* m_Parser(Kind kind, uint8_t tableId);
     void m_LearnPids();
     void m_LearnPrivateSectionPids();
@@ -116,6 +124,8 @@ private:
     std::set<uint16_t> m_ewsPids;
     std::unique_ptr<TCSITParser> m_sit;
 
+    // Without PIDs, the kind that sections of a shared table id went to.
+    std::map<uint8_t, Kind> m_sharedKinds;
     std::map<TableKey, TableCounts> m_counts;
     uint64_t m_routed = 0;
     uint64_t m_noParser = 0;

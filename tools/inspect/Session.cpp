@@ -29,6 +29,27 @@ zum_platform::BinderSettings BinderSettingsFor(const InspectSettings& settings)
     return binder;
 }
 
+namespace {
+
+constexpr char kCountryCharset[] = "country";
+
+} // namespace
+
+zum_platform::TextSettings TextSettingsFor(const std::string& charset)
+{
+    zum_platform::TextSettings text;
+    if (charset == kCountryCharset)
+        text.dvbCountryTables = true;
+    else
+        text.defaultTable = charset;
+    return text;
+}
+
+bool IsKnownCharset(const std::string& charset)
+{
+    return charset == kCountryCharset || zum_platform::IsKnownDefaultTable(charset);
+}
+
 Session::Session(InputKind kind, const InspectSettings& settings)
     : m_kind(kind),
       m_settings(settings),

@@ -27,6 +27,12 @@ struct InspectSettings {
 
 // The platform answers for these settings; the caller hands them to zum_platform::SetBinder.
 zum_platform::BinderSettings BinderSettingsFor(const InspectSettings& settings);
+// The text converter's settings for a table of text without a selector byte:
+// "ISO-8859-N", "ISO6937", "country" (what the country's broadcasters send), or
+// empty for the standards' reading; the caller hands them to zum_platform::SetTextSettings.
+zum_platform::TextSettings TextSettingsFor(const std::string& charset);
+// Whether TextSettingsFor takes `charset`.
+bool IsKnownCharset(const std::string& charset);
 
 class Session {
 public:

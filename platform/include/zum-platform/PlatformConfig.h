@@ -36,6 +36,26 @@ BinderSettings& Binder();
 // The handle of the last binder call that took one.
 ZUMHandle LastBinderHandle();
 
+// How TCUnicodeConverter reads text that starts without a selector byte.
+// By default as the standards say: ISO/IEC 6937 (with the euro sign) in DVB
+// countries, the country's own table where its rules give one (Brazil: ISO 8859-15).
+struct TextSettings {
+    // The table for such text in every country: "ISO-8859-N" (N of 1..11, 13..16)
+    // or "ISO6937". Empty: by the rules below.
+    std::string defaultTable;
+    // Also take the table that broadcasters of a DVB country send in practice
+    // (France, Italy: ISO 8859-15) instead of ISO/IEC 6937. Off by default.
+    bool dvbCountryTables = false;
+};
+
+void SetTextSettings(const TextSettings& settings);
+// The settings in force; changes take effect at once.
+TextSettings& Text();
+// Whether `name` is a table that TextSettings::defaultTable takes.
+bool IsKnownDefaultTable(const std::string& name);
+// The table for text without a selector byte in `country` under the settings in force.
+std::string DefaultTableFor(ECountryCode country);
+
 // Lines at or above this priority go to standard error; default 6 (ERROR).
 // kLogSilent lets none through, and none is formatted.
 constexpr int kLogSilent = 100;

@@ -2,8 +2,9 @@
 #define ZUM_PLATFORM_UNICODECONVERTER_H
 
 // Broadcast text to 16-bit characters. The first byte(s) of the text pick the
-// character table the way DVB text does: no selector is the default Latin
-// table (ISO/IEC 6937), 0x01..0x0B ISO 8859-5..15, 0x10 0x00 0xNN ISO 8859-NN,
+// character table the way DVB text does: no selector is the default table
+// (ISO/IEC 6937, or what zum_platform::TextSettings gives for the binder's
+// country, see PlatformConfig.h), 0x01..0x0B ISO 8859-5..15, 0x10 0x00 0xNN ISO 8859-NN,
 // 0x11 UTF-16BE, 0x12 KS X 1001, 0x13 GB2312, 0x14 UTF-16BE (the Big5 repertoire), 0x15 UTF-8.
 // The control code CR/LF (0x8A, U+E08A) becomes '\n'; the other control codes
 // (0x80..0x9F, U+E080..U+E09F) and NUL are dropped. The output is UTF-16.
