@@ -1,7 +1,5 @@
 #include "DescMultilingualNetworkName.h"
 
-#include <utility>
-
 #include "../core/ByteReader.h"
 #include "../core/CompareISO8859Char.h"
 #include "../core/Diagnostics.h"
@@ -13,29 +11,43 @@ namespace {
 // Every entry starts with a language and a length byte.
 constexpr int kEntryHead = 4;
 
-template <class Record>
-int ParseRecords(TCByteReader& reader, std::vector<Record>& records)
+// Hands each record to `visit`, which answers the bytes that it took.
+template <class Visit>
+int WalkRecords(TCByteReader reader, Visit visit)
 {
     while (reader.Has(kEntryHead)) {
-        Record record;
-        const int taken = record.Parse(reader.Here(), reader.Left());
-        records.push_back(std::move(record));
+        const int taken = visit(reader.Here(), reader.Left());
         if (taken <= 0 || !reader.Skip(taken))
             break;
     }
     return reader.Consumed();
 }
 
+// The records of the loop at the reader, counted first so that they take one block.
+template <class Record>
+int ParseRecords(TCByteReader& reader, std::vector<Record>& records)
+{
+    size_t count = 0;
+    WalkRecords(reader, [&count](const unsigned char* data, int size) {
+        ++count;
+        return Record().Parse(data, size);
+    });
+    records.reserve(count);
+    return WalkRecords(reader, [&records](const unsigned char* data, int size) {
+        records.emplace_back();
+        return records.back().Parse(data, size);
+    });
+}
+
 // Copies of the service names: a cut text still answers true, and an empty
 // copy answers whether there was nothing to copy.
-bool ServiceNameCopy(const std::unique_ptr<unsigned char[]>& text, unsigned char length, unsigned char* buffer,
-                     unsigned short* size)
+bool ServiceNameCopy(const zum_text::TTText& text, unsigned char* buffer, unsigned short* size)
 {
     if (!buffer || !size)
         return false;
-    if (length == 0 || *size == 0)
-        return !text;
-    return zum_text::Copy(text.get(), length, buffer, size, true);
+    if (text.length == 0 || *size == 0)
+        return !text.Data();
+    return zum_text::Copy(text, buffer, size, true);
 }
 
 } // namespace
@@ -46,15 +58,14 @@ int TCDescMultilingualNetworkName::CmultiNetworkNameDesc::Parse(const unsigned c
 {
     TCByteReader reader(data, size);
     m_language = reader.U24();
-    m_networkNameLength = static_cast<unsigned char>(zum_text::Take(reader, static_cast<int>(reader.U8()),
-                                                                    m_pNetworkName));
+    m_networkName = zum_text::Take(reader, static_cast<int>(reader.U8()));
     return reader.Consumed();
 }
 
 bool TCDescMultilingualNetworkName::CmultiNetworkNameDesc::NetworkNameChar(unsigned char* buffer,
                                                                            unsigned short* size) const
 {
-    return zum_text::Copy(m_pNetworkName.get(), m_networkNameLength, buffer, size);
+    return zum_text::Copy(m_networkName, buffer, size);
 }
 
 TCDescMultilingualNetworkName::TCDescMultilingualNetworkName() : TCBaseDesc(0x5B) {}
@@ -109,24 +120,22 @@ int TCDescMultilingualServiceName::CmultiServiceNameDesc::Parse(const unsigned c
     TCByteReader reader(data, size);
     m_language = reader.U24();
     if (reader.Has(1))
-        m_providerNameLength = static_cast<unsigned char>(zum_text::Take(reader, static_cast<int>(reader.U8()),
-                                                                         m_pProviderName));
+        m_providerName = zum_text::Take(reader, static_cast<int>(reader.U8()));
     if (reader.Has(1))
-        m_serviceNameLength = static_cast<unsigned char>(zum_text::Take(reader, static_cast<int>(reader.U8()),
-                                                                        m_pServiceName));
+        m_serviceName = zum_text::Take(reader, static_cast<int>(reader.U8()));
     return reader.Consumed();
 }
 
 bool TCDescMultilingualServiceName::CmultiServiceNameDesc::ServiceProviderNameChar(unsigned char* buffer,
                                                                                    unsigned short* size) const
 {
-    return ServiceNameCopy(m_pProviderName, m_providerNameLength, buffer, size);
+    return ServiceNameCopy(m_providerName, buffer, size);
 }
 
 bool TCDescMultilingualServiceName::CmultiServiceNameDesc::ServiceNameChar(unsigned char* buffer,
                                                                            unsigned short* size) const
 {
-    return ServiceNameCopy(m_pServiceName, m_serviceNameLength, buffer, size);
+    return ServiceNameCopy(m_serviceName, buffer, size);
 }
 
 TCDescMultilingualServiceName::TCDescMultilingualServiceName() : TCBaseDesc(0x5D) {}
@@ -204,13 +213,13 @@ int TCDescMultilingualComponent::CmultiComponentDesc::Parse(const unsigned char*
 {
     TCByteReader reader(data, size);
     m_language = reader.U24();
-    m_textLength = static_cast<unsigned char>(zum_text::Take(reader, static_cast<int>(reader.U8()), m_pText));
+    m_text = zum_text::Take(reader, static_cast<int>(reader.U8()));
     return reader.Consumed();
 }
 
 bool TCDescMultilingualComponent::CmultiComponentDesc::TextDescChar(char* buffer, int* size) const
 {
-    return zum_text::Copy(m_pText.get(), m_textLength, buffer, size);
+    return zum_text::Copy(m_text, buffer, size);
 }
 
 TCDescMultilingualComponent::TCDescMultilingualComponent() : TCBaseDesc(0x5E) {}

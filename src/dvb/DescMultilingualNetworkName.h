@@ -1,28 +1,29 @@
 #ifndef ZUM_DVB_DESCMULTILINGUALNETWORKNAME_H
 #define ZUM_DVB_DESCMULTILINGUALNETWORKNAME_H
 
-#include <memory>
 #include <vector>
 
 #include "../core/BaseDesc.h"
+#include "DescText.h"
 
 // multilingual_network_name_descriptor (0x5B): one name per language.
 class ZUM_EXPORT TCDescMultilingualNetworkName : public TCBaseDesc {
 public:
     // One language's name. Parse reads no further than `size` bytes and
     // answers the bytes it took; a name that claims more keeps what is there.
+    // The name stays where it stands in the bytes that Parse read, which must
+    // outlive the record (the descriptor's raw copy for its own records).
     class CmultiNetworkNameDesc {
     public:
         int Parse(const unsigned char* data, int size);
         unsigned int Language() const { return m_language; }
-        unsigned char NetworkNameLength() const { return m_networkNameLength; }
+        unsigned char NetworkNameLength() const { return static_cast<unsigned char>(m_networkName.length); }
         // Text copy.
         bool NetworkNameChar(unsigned char* buffer, unsigned short* size) const;
 
     private:
         unsigned int m_language = 0;
-        unsigned char m_networkNameLength = 0;
-        std::unique_ptr<unsigned char[]> m_pNetworkName;
+        zum_text::TTText m_networkName;
     };
 
     TCDescMultilingualNetworkName();
@@ -53,17 +54,15 @@ public:
     public:
         int Parse(const unsigned char* data, int size);
         unsigned int Language() const { return m_language; }
-        unsigned char ServiceProviderNameLength() const { return m_providerNameLength; }
-        unsigned char ServiceNameLength() const { return m_serviceNameLength; }
+        unsigned char ServiceProviderNameLength() const { return static_cast<unsigned char>(m_providerName.length); }
+        unsigned char ServiceNameLength() const { return static_cast<unsigned char>(m_serviceName.length); }
         bool ServiceProviderNameChar(unsigned char* buffer, unsigned short* size) const;
         bool ServiceNameChar(unsigned char* buffer, unsigned short* size) const;
 
     private:
         unsigned int m_language = 0;
-        unsigned char m_providerNameLength = 0;
-        std::unique_ptr<unsigned char[]> m_pProviderName;
-        unsigned char m_serviceNameLength = 0;
-        std::unique_ptr<unsigned char[]> m_pServiceName;
+        zum_text::TTText m_providerName;
+        zum_text::TTText m_serviceName;
     };
 
     TCDescMultilingualServiceName();
@@ -97,14 +96,13 @@ public:
     public:
         int Parse(const unsigned char* data, int size);
         unsigned int Language() const { return m_language; }
-        unsigned char TextLength() const { return m_textLength; }
+        unsigned char TextLength() const { return static_cast<unsigned char>(m_text.length); }
         // Text copy.
         bool TextDescChar(char* buffer, int* size) const;
 
     private:
         unsigned int m_language = 0;
-        unsigned char m_textLength = 0;
-        std::unique_ptr<unsigned char[]> m_pText;
+        zum_text::TTText m_text;
     };
 
     TCDescMultilingualComponent();
