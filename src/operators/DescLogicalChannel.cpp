@@ -1,18 +1,17 @@
 #include "DescLogicalChannel.h"
 
-#include <memory>
-
 #include "../dvb/LCNDescParseHelper.h"
 
 namespace {
 
 const int kEntrySize = 4;
 const unsigned int kNoNumber = 0xFFFFFFFF;
+const std::size_t kWalkEnded = static_cast<std::size_t>(-1);
 
 } // namespace
 
 TCDescLogicalChannel::TCDescLogicalChannel(int tag, unsigned int privateDataSpecifier)
-    : TCBaseDesc(tag), m_privateDataSpecifier(privateDataSpecifier), m_readPosition(m_entries.end())
+    : TCBaseDesc(tag), m_privateDataSpecifier(privateDataSpecifier)
 {
 }
 
@@ -23,8 +22,8 @@ TCDescLogicalChannel::~TCDescLogicalChannel()
 
 void TCDescLogicalChannel::DeleteAll()
 {
-    m_entries.clear();
-    m_readPosition = m_entries.end();
+    m_entries.Clear();
+    m_readPosition = kWalkEnded;
 }
 
 TCBaseDesc* TCDescLogicalChannel::Fork() const
@@ -32,51 +31,17 @@ TCBaseDesc* TCDescLogicalChannel::Fork() const
     return t_ForkAs(new TCDescLogicalChannel(m_tag, m_privateDataSpecifier));
 }
 
-_TTDescLCN TCDescLogicalChannel::EmptyEntry(unsigned short serviceId)
-{
-    _TTDescLCN entry{};
-    entry.serviceId = serviceId;
-    entry.visibleFlag = 1;
-    entry.numericSelectionFlag = 1;
-    entry.polsatServiceId = 0xFFFF;
-    return entry;
-}
-
-ILCNDescParseHelper* TCDescLogicalChannel::NewParseHelper(unsigned int privateDataSpecifier, int tag)
-{
-    switch (privateDataSpecifier) {
-    case 0x00000014:
-    case 0x00000022:
-    case 0x00000029:
-    case 0x00006003:
-    case 0x000062E1:
-    case 0xECCA0001:
-    case 0xEFFFFFFF: return new TCLCNDescParseHelper_Nordig();
-    case 0x000001A0:
-    case 0x00006001:
-    case 0x002FFFFF:
-    case 0x007FFFFF: return new TCLCNDescParseHelper_Philips();
-    case 0x000022C6:
-    case 0x0000233A:
-    case 0x00006002:
-        if (tag == 0x88)
-            return new TCLCNDescParseHelper_EBook();
-        return new TCLCNDescParseHelper_DBook();
-    case 0x010FFFFF: return new TCLCNDescParseHelper_M7();
-    default: return new TCLCNDescParseHelper_EBook();
-    }
-}
-
 int TCDescLogicalChannel::t_Parse(const unsigned char* payload, unsigned char length)
 {
-    const std::unique_ptr<ILCNDescParseHelper> helper(NewParseHelper(m_privateDataSpecifier, m_tag));
+    const ILCNDescParseHelper& layout = LCNLayoutOf(m_privateDataSpecifier, m_tag);
     const int count = length / kEntrySize;
+    m_entries.Reserve(m_entries.Size() + static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
         const unsigned char* raw = payload + i * kEntrySize;
-        _TTDescLCN entry = EmptyEntry(helper->GetServiceId(raw));
-        entry.channelNumber = helper->GetChannelNumber(raw);
+        _TTDescLCN entry = LCNEmptyEntry(layout.GetServiceId(raw));
+        entry.channelNumber = layout.GetChannelNumber(raw);
         // Tag 0x82 carries no visible flag in its entries.
-        entry.visibleFlag = (m_tag == 0x82 || helper->GetVisibleFlag(raw)) ? 1 : 0;
+        entry.visibleFlag = (m_tag == 0x82 || layout.GetVisibleFlag(raw)) ? 1 : 0;
         t_AddEntry(entry);
     }
     return count * kEntrySize;
@@ -84,7 +49,7 @@ int TCDescLogicalChannel::t_Parse(const unsigned char* payload, unsigned char le
 
 void TCDescLogicalChannel::t_AddEntry(const _TTDescLCN& entry)
 {
-    m_entries.emplace(entry.serviceId, entry);
+    m_entries.Add(entry);
 }
 
 bool TCDescLogicalChannel::GetAvailableRegions(std::list<unsigned short>& /*regions*/) const
@@ -94,26 +59,26 @@ bool TCDescLogicalChannel::GetAvailableRegions(std::list<unsigned short>& /*regi
 
 unsigned int TCDescLogicalChannel::NumOfServices(unsigned short /*region*/) const
 {
-    return static_cast<unsigned int>(m_entries.size());
+    return static_cast<unsigned int>(m_entries.Size());
 }
 
 bool TCDescLogicalChannel::CheckServiceId(unsigned short serviceId, ECountryCode /*country*/) const
 {
-    return m_entries.find(serviceId) != m_entries.end();
+    return m_entries.FirstOf(serviceId) != nullptr;
 }
 
 unsigned int TCDescLogicalChannel::LogicalChannelNumber(unsigned short serviceId) const
 {
-    const auto it = m_entries.find(serviceId);
-    return it == m_entries.end() ? kNoNumber : it->second.channelNumber;
+    const _TTDescLCN* entry = m_entries.FirstOf(serviceId);
+    return entry ? entry->channelNumber : kNoNumber;
 }
 
 void TCDescLogicalChannel::GetLogicalChannelNumberList(unsigned short serviceId,
                                                        std::list<unsigned short>& numbers) const
 {
-    const auto range = m_entries.equal_range(serviceId);
-    for (auto it = range.first; it != range.second; ++it)
-        numbers.push_back(it->second.channelNumber);
+    const TCLCNEntryList::Range range = m_entries.EntriesOf(serviceId);
+    for (const _TTDescLCN* entry = range.first; entry != range.second; ++entry)
+        numbers.push_back(entry->channelNumber);
 }
 
 bool TCDescLogicalChannel::FreesatServiceId(unsigned short /*serviceId*/, unsigned short& /*freesatId*/) const
@@ -133,8 +98,8 @@ bool TCDescLogicalChannel::CustomisableServiceFlag(unsigned short /*serviceId*/,
 
 bool TCDescLogicalChannel::VisibleServiceFlag(unsigned short serviceId, unsigned short /*region*/) const
 {
-    const auto it = m_entries.find(serviceId);
-    return it == m_entries.end() || it->second.visibleFlag != 0;
+    const _TTDescLCN* entry = m_entries.FirstOf(serviceId);
+    return !entry || entry->visibleFlag != 0;
 }
 
 bool TCDescLogicalChannel::NumericSelectionFlag(unsigned short /*serviceId*/, unsigned short /*region*/) const
@@ -144,23 +109,21 @@ bool TCDescLogicalChannel::NumericSelectionFlag(unsigned short /*serviceId*/, un
 
 const _TTDescLCN* TCDescLogicalChannel::First(unsigned short region)
 {
-    m_readPosition = m_entries.begin();
+    m_readPosition = 0;
     return Next(region);
 }
 
 const _TTDescLCN* TCDescLogicalChannel::Next(unsigned short /*region*/)
 {
-    if (m_readPosition == m_entries.end())
+    if (m_readPosition >= m_entries.Size())
         return nullptr;
-    const _TTDescLCN* entry = &m_readPosition->second;
-    ++m_readPosition;
-    return entry;
+    return m_entries.Begin() + m_readPosition++;
 }
 
 bool TCDescLogicalChannel::ServiceIDList(std::set<unsigned short>& serviceIds) const
 {
-    for (const auto& item : m_entries)
-        serviceIds.insert(item.first);
+    for (const _TTDescLCN* entry = m_entries.Begin(); entry != m_entries.End(); ++entry)
+        serviceIds.insert(entry->serviceId);
     return true;
 }
 
