@@ -8,37 +8,6 @@
 
 namespace {
 
-// Every entry starts with a language and a length byte.
-constexpr int kEntryHead = 4;
-
-// Hands each record to `visit`, which answers the bytes that it took.
-template <class Visit>
-int WalkRecords(TCByteReader reader, Visit visit)
-{
-    while (reader.Has(kEntryHead)) {
-        const int taken = visit(reader.Here(), reader.Left());
-        if (taken <= 0 || !reader.Skip(taken))
-            break;
-    }
-    return reader.Consumed();
-}
-
-// The records of the loop at the reader, counted first so that they take one block.
-template <class Record>
-int ParseRecords(TCByteReader& reader, std::vector<Record>& records)
-{
-    size_t count = 0;
-    WalkRecords(reader, [&count](const unsigned char* data, int size) {
-        ++count;
-        return Record().Parse(data, size);
-    });
-    records.reserve(count);
-    return WalkRecords(reader, [&records](const unsigned char* data, int size) {
-        records.emplace_back();
-        return records.back().Parse(data, size);
-    });
-}
-
 // Copies of the service names: a cut text still answers true, and an empty
 // copy answers whether there was nothing to copy.
 bool ServiceNameCopy(const zum_text::TTText& text, unsigned char* buffer, unsigned short* size)
@@ -77,7 +46,7 @@ TCDescMultilingualNetworkName::~TCDescMultilingualNetworkName()
 
 void TCDescMultilingualNetworkName::DeleteAll()
 {
-    m_names.clear();
+    m_names.Clear();
 }
 
 TCBaseDesc* TCDescMultilingualNetworkName::Fork() const
@@ -87,15 +56,18 @@ TCBaseDesc* TCDescMultilingualNetworkName::Fork() const
 
 int TCDescMultilingualNetworkName::t_Parse(const unsigned char* payload, unsigned char length)
 {
-    DeleteAll();
-    TCByteReader reader(payload, length);
-    return ParseRecords(reader, m_names);
+    return m_names.Count(payload, length);
+}
+
+const std::vector<CmultiNetworkNameDesc>& TCDescMultilingualNetworkName::m_Names() const
+{
+    return m_names.All(t_Payload(), m_length);
 }
 
 const TCDescMultilingualNetworkName::CmultiNetworkNameDesc* TCDescMultilingualNetworkName::NetworkNameDesc(
     int index) const
 {
-    return RecordAt(m_names, index);
+    return RecordAt(m_Names(), index);
 }
 
 bool TCDescMultilingualNetworkName::GetNetworkNameByLanguage(unsigned int language, unsigned char* name,
@@ -103,7 +75,7 @@ bool TCDescMultilingualNetworkName::GetNetworkNameByLanguage(unsigned int langua
 {
     if (!ZUM_ASSERT(name != __null && size != __null))
         return false;
-    for (const CmultiNetworkNameDesc& entry : m_names) {
+    for (const CmultiNetworkNameDesc& entry : m_Names()) {
         if (!TCCompareISO8859Char::IsEqual(entry.Language(), language))
             continue;
         *size = entry.NetworkNameLength();
@@ -147,7 +119,7 @@ TCDescMultilingualServiceName::~TCDescMultilingualServiceName()
 
 void TCDescMultilingualServiceName::DeleteAll()
 {
-    m_names.clear();
+    m_names.Clear();
 }
 
 TCBaseDesc* TCDescMultilingualServiceName::Fork() const
@@ -157,15 +129,18 @@ TCBaseDesc* TCDescMultilingualServiceName::Fork() const
 
 int TCDescMultilingualServiceName::t_Parse(const unsigned char* payload, unsigned char length)
 {
-    DeleteAll();
-    TCByteReader reader(payload, length);
-    return ParseRecords(reader, m_names);
+    return m_names.Count(payload, length);
+}
+
+const std::vector<CmultiServiceNameDesc>& TCDescMultilingualServiceName::m_Names() const
+{
+    return m_names.All(t_Payload(), m_length);
 }
 
 const TCDescMultilingualServiceName::CmultiServiceNameDesc* TCDescMultilingualServiceName::ServiceNameDesc(
     int index) const
 {
-    return RecordAt(m_names, index);
+    return RecordAt(m_Names(), index);
 }
 
 bool TCDescMultilingualServiceName::GetServiceNameByLanguage(unsigned int language, unsigned char* name,
@@ -173,7 +148,7 @@ bool TCDescMultilingualServiceName::GetServiceNameByLanguage(unsigned int langua
 {
     if (!name || !size)
         return false;
-    for (const CmultiServiceNameDesc& entry : m_names) {
+    for (const CmultiServiceNameDesc& entry : m_Names()) {
         if (TCCompareISO8859Char::IsEqual(entry.Language(), language)) {
             *size = entry.ServiceNameLength();
             return entry.ServiceNameChar(name, size);
@@ -187,7 +162,7 @@ bool TCDescMultilingualServiceName::GetServiceProviderNameByLanguage(unsigned in
 {
     if (!name || !size)
         return false;
-    for (const CmultiServiceNameDesc& entry : m_names) {
+    for (const CmultiServiceNameDesc& entry : m_Names()) {
         if (entry.Language() == language) {
             *size = entry.ServiceProviderNameLength();
             return entry.ServiceProviderNameChar(name, size);
@@ -199,12 +174,14 @@ bool TCDescMultilingualServiceName::GetServiceProviderNameByLanguage(unsigned in
 bool TCDescMultilingualServiceName::GetServiceNameByIndex(unsigned int index, unsigned int* language,
                                                           unsigned char* name, unsigned short* size) const
 {
-    if (!language || !name || !size || index >= m_names.size())
+    if (!language || !name || !size || index >= static_cast<unsigned int>(NumOfServiceName()))
         return false;
-    const CmultiServiceNameDesc& entry = m_names[index];
-    *language = entry.Language();
-    *size = entry.ServiceNameLength();
-    return entry.ServiceNameChar(name, size);
+    const CmultiServiceNameDesc* entry = RecordAt(m_Names(), static_cast<int>(index));
+    if (!entry)
+        return false;
+    *language = entry->Language();
+    *size = entry->ServiceNameLength();
+    return entry->ServiceNameChar(name, size);
 }
 
 // ---------------------------------------------------------------- component
@@ -231,7 +208,7 @@ TCDescMultilingualComponent::~TCDescMultilingualComponent()
 
 void TCDescMultilingualComponent::DeleteAll()
 {
-    m_texts.clear();
+    m_texts.Clear();
 }
 
 TCBaseDesc* TCDescMultilingualComponent::Fork() const
@@ -247,10 +224,11 @@ int TCDescMultilingualComponent::t_Parse(const unsigned char* payload, unsigned 
     // A body of the tag alone holds no entry.
     if (length < 2)
         return reader.Consumed();
-    return ParseRecords(reader, m_texts);
+    return reader.Consumed() + m_texts.Count(reader.Here(), reader.Left());
 }
 
 const TCDescMultilingualComponent::CmultiComponentDesc* TCDescMultilingualComponent::ComponentDesc(int index) const
 {
-    return RecordAt(m_texts, index);
+    const unsigned char* payload = t_Payload();
+    return payload && m_length >= 2 ? m_texts.At(payload + 1, m_length - 1, index) : nullptr;
 }

@@ -5,6 +5,7 @@
 
 #include "../core/BaseDesc.h"
 #include "DescText.h"
+#include "RecordsOnAccess.h"
 
 // multilingual_network_name_descriptor (0x5B): one name per language.
 class ZUM_EXPORT TCDescMultilingualNetworkName : public TCBaseDesc {
@@ -31,7 +32,7 @@ public:
     void DeleteAll() override;
     TCBaseDesc* Fork() const override;
 
-    int NumOfNetworkName() const { return static_cast<int>(m_names.size()); }
+    int NumOfNetworkName() const { return m_names.Size(); }
     // Null for an index outside the list.
     const CmultiNetworkNameDesc* NetworkNameDesc(int index) const;
     // The name of the first entry whose language matches, case aside. `size`
@@ -42,7 +43,10 @@ protected:
     int t_Parse(const unsigned char* payload, unsigned char length) override;
 
 private:
-    std::vector<CmultiNetworkNameDesc> m_names;
+    const std::vector<CmultiNetworkNameDesc>& m_Names() const;
+
+    // Each record starts with a language and a length byte.
+    TCRecordsOnAccess<CmultiNetworkNameDesc, 4> m_names;
 };
 
 // multilingual_service_name_descriptor (0x5D): provider and service name per language.
@@ -70,7 +74,7 @@ public:
     void DeleteAll() override;
     TCBaseDesc* Fork() const override;
 
-    int NumOfServiceName() const { return static_cast<int>(m_names.size()); }
+    int NumOfServiceName() const { return m_names.Size(); }
     // Null for an index outside the list.
     const CmultiServiceNameDesc* ServiceNameDesc(int index) const;
     // First entry whose language matches, case aside; `size` is output only.
@@ -85,7 +89,9 @@ protected:
     int t_Parse(const unsigned char* payload, unsigned char length) override;
 
 private:
-    std::vector<CmultiServiceNameDesc> m_names;
+    const std::vector<CmultiServiceNameDesc>& m_Names() const;
+
+    TCRecordsOnAccess<CmultiServiceNameDesc, 4> m_names;
 };
 
 // multilingual_component_descriptor (0x5E): a component's text per language.
@@ -111,7 +117,7 @@ public:
     TCBaseDesc* Fork() const override;
 
     unsigned char ComponentTag() const { return m_componentTag; }
-    int NumOfComponentText() const { return static_cast<int>(m_texts.size()); }
+    int NumOfComponentText() const { return m_texts.Size(); }
     // Null for an index outside the list.
     const CmultiComponentDesc* ComponentDesc(int index) const;
 
@@ -120,7 +126,8 @@ protected:
 
 private:
     unsigned char m_componentTag = 0;
-    std::vector<CmultiComponentDesc> m_texts;
+    // Behind the component tag.
+    TCRecordsOnAccess<CmultiComponentDesc, 4> m_texts;
 };
 
 using CmultiNetworkNameDesc = TCDescMultilingualNetworkName::CmultiNetworkNameDesc;

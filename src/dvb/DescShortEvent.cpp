@@ -9,18 +9,8 @@
 
 namespace {
 
-// Hands each item of an items area of `size` bytes to `visit`, which answers
-// the bytes that the item took.
-template <class Visit>
-void WalkItems(const unsigned char* items, int size, Visit visit)
-{
-    for (int at = 0; at < size;) {
-        const int taken = visit(items + at, size - at);
-        if (taken <= 0)
-            break;
-        at += taken;
-    }
-}
+// Numbers, language and length of items come before the items.
+const int kItemsStart = 5;
 
 } // namespace
 
@@ -141,7 +131,7 @@ TCDescExtendedEvent::~TCDescExtendedEvent()
 
 void TCDescExtendedEvent::DeleteAll()
 {
-    m_items.clear();
+    m_items.Clear();
     m_text = TTRawRun();
     m_textLength = 0;
 }
@@ -167,7 +157,7 @@ int TCDescExtendedEvent::t_Parse(const unsigned char* payload, unsigned char len
         return reader.Consumed();
     m_language = reader.U24();
     m_lengthOfItems = static_cast<unsigned char>(reader.U8());
-    const int itemsStart = reader.Consumed();
+    const int itemsStart = kItemsStart;
     // Items that reach the end leave no text length to read.
     if (itemsStart + m_lengthOfItems >= length)
         return itemsStart;
@@ -177,17 +167,7 @@ int TCDescExtendedEvent::t_Parse(const unsigned char* payload, unsigned char len
     if (textLength > length - position)
         return position;
 
-    // Counted first, so that the items take one block.
-    size_t count = 0;
-    WalkItems(payload + itemsStart, m_lengthOfItems, [&count](const unsigned char* item, int left) {
-        ++count;
-        return CitemDesc().Parse(item, left);
-    });
-    m_items.reserve(count);
-    WalkItems(payload + itemsStart, m_lengthOfItems, [this](const unsigned char* item, int left) {
-        m_items.emplace_back();
-        return m_items.back().Parse(item, left);
-    });
+    m_items.Count(payload + itemsStart, m_lengthOfItems);
     m_text = t_Run(payload, payload + position, textLength);
     m_textLength = static_cast<unsigned int>(textLength);
     return position + textLength;
@@ -209,5 +189,8 @@ bool TCDescExtendedEvent::FlagEqual(const TCDescExtendedEvent* other) const
 
 const TCDescExtendedEvent::CitemDesc* TCDescExtendedEvent::Item(unsigned int index) const
 {
-    return index < m_items.size() ? &m_items[index] : nullptr;
+    const unsigned char* payload = t_Payload();
+    if (!payload || index >= static_cast<unsigned int>(m_items.Size()))
+        return nullptr;
+    return m_items.At(payload + kItemsStart, m_lengthOfItems, static_cast<int>(index));
 }

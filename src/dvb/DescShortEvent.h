@@ -1,10 +1,9 @@
 #ifndef ZUM_DVB_DESCSHORTEVENT_H
 #define ZUM_DVB_DESCSHORTEVENT_H
 
-#include <vector>
-
 #include "../core/BaseDesc.h"
 #include "DescText.h"
+#include "RecordsOnAccess.h"
 
 // short_event_descriptor (0x4D): language, event name and text, raw.
 class ZUM_EXPORT TCDescShortEvent : public TCBaseDesc {
@@ -80,14 +79,13 @@ public:
     bool FlagEqual(const TCDescExtendedEvent* other) const;
     // Null for an index outside the items.
     const CitemDesc* Item(unsigned int index) const;
-    unsigned int SizeOfItem() const { return static_cast<unsigned int>(m_items.size()); }
+    unsigned int SizeOfItem() const { return static_cast<unsigned int>(m_items.Size()); }
 
 protected:
     int t_Parse(const unsigned char* payload, unsigned char length) override;
 
 private:
-    // The items are handed out by pointer: one vector, views into the raw copy.
-    std::vector<CitemDesc> m_items;
+    TCRecordsOnAccess<CitemDesc, 1> m_items;
     unsigned char m_descriptorNumber = 0;
     unsigned char m_lastDescriptorNumber = 0;
     unsigned int m_language = 0;
