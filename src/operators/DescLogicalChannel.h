@@ -65,13 +65,21 @@ public:
 
 protected:
     int t_Parse(const unsigned char* payload, unsigned char length) override;
-    // Goes behind the entries of the same service id.
+    // For a subclass that decodes entries of its own: goes behind the
+    // entries of the same service id.
     void t_AddEntry(const _TTDescLCN& entry);
-    const TCLCNEntryList& t_Entries() const { return m_entries; }
 
     unsigned int m_privateDataSpecifier;
 
 private:
+    // The entries of the raw copy are read where they stand; the walk, which
+    // hands them out by pointer, first reads them into m_entries.
+    int m_RawCount() const;
+    _TTDescLCN m_RawEntry(int index) const;
+    // The first entry of the service, in the order of the descriptor.
+    bool m_First(unsigned short serviceId, _TTDescLCN& entry) const;
+
+    int m_rawEntries = 0;
     TCLCNEntryList m_entries;
     // The walk's next entry; past the end before First and after DeleteAll.
     std::size_t m_readPosition = static_cast<std::size_t>(-1);
