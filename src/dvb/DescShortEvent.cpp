@@ -1,7 +1,5 @@
 #include "DescShortEvent.h"
 
-#include <algorithm>
-
 #include "../core/ByteReader.h"
 #include "../core/CompareISO8859Char.h"
 #include "../core/Log.h"

@@ -86,13 +86,13 @@ unsigned int TCDescLogicalChannel::NumOfServices(unsigned short /*region*/) cons
 
 bool TCDescLogicalChannel::CheckServiceId(unsigned short serviceId, ECountryCode /*country*/) const
 {
-    _TTDescLCN entry;
+    _TTDescLCN entry{};
     return m_First(serviceId, entry);
 }
 
 unsigned int TCDescLogicalChannel::LogicalChannelNumber(unsigned short serviceId) const
 {
-    _TTDescLCN entry;
+    _TTDescLCN entry{};
     return m_First(serviceId, entry) ? entry.channelNumber : kNoNumber;
 }
 
@@ -126,7 +126,7 @@ bool TCDescLogicalChannel::CustomisableServiceFlag(unsigned short /*serviceId*/,
 
 bool TCDescLogicalChannel::VisibleServiceFlag(unsigned short serviceId, unsigned short /*region*/) const
 {
-    _TTDescLCN entry;
+    _TTDescLCN entry{};
     return !m_First(serviceId, entry) || entry.visibleFlag != 0;
 }
 
