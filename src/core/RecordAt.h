@@ -6,6 +6,7 @@
 // decoded records in a vector, or fixed-size records read from the raw copy.
 
 #include <cstddef>
+#include <type_traits>
 #include <vector>
 
 template <class Record>
@@ -14,6 +15,15 @@ const Record* RecordAt(const std::vector<Record>& records, int index)
     if (index < 0 || index >= static_cast<int>(records.size()))
         return nullptr;
     return &records[static_cast<std::size_t>(index)];
+}
+
+// One field of the record at `index`; `none` when there is no such record.
+template <class Record, class Field>
+Field FieldAt(const std::vector<Record>& records, int index, Field Record::*field,
+              std::common_type_t<Field> none = Field())
+{
+    const Record* record = RecordAt(records, index);
+    return record ? record->*field : none;
 }
 
 // The record of `size` bytes at `index` in a loop of `count` such records
