@@ -1,6 +1,7 @@
 // One descriptor loop in an exactly-sized buffer, walked by TCDescriptor for
 // a broadcast system, table scope and binder setting chosen by the first
-// three input bytes; the hash is then cloned, compared and copied out.
+// three input bytes; every object's fields are read, and the hash is then
+// cloned, compared and copied out, the clones read after their source is gone.
 
 #include <cstddef>
 #include <cstdint>
@@ -15,6 +16,7 @@
 #include "core/Descriptor.h"
 #include "core/DescriptorDataTranslator.h"
 #include "core/DescriptorHash.h"
+#include "ReadDescFields.h"
 
 namespace {
 
@@ -47,13 +49,20 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     TCDescriptorHash hash;
     descriptor.Parse(loop.get(), static_cast<int>(length), hash, tableId);
     descriptor.ParseByCount(loop.get(), 8, hash, tableId, static_cast<int>(length));
+    // The objects hold their bytes themselves.
+    loop.reset();
 
     TCDescriptorHash copy;
     copy = hash;
     if (!(copy == hash))
         __builtin_trap();
+    for (int i = 0; i < hash.NumOfDescriptors(); ++i)
+        fuzzfields::Read(hash.DescriptorByIndex(static_cast<unsigned int>(i)));
     std::list<TCBaseDesc*> clones;
-    hash.GetDescriptor(&clones);
+    copy.GetDescriptor(&clones);
+    copy.DeleteAll();
+    for (TCBaseDesc* clone : clones)
+        fuzzfields::Read(clone);
     unsigned char buffer[257];
     for (TCBaseDesc* clone : clones) {
         int capacity = sizeof buffer;

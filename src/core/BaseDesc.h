@@ -1,6 +1,8 @@
 #ifndef ZUM_CORE_BASEDESC_H
 #define ZUM_CORE_BASEDESC_H
 
+#include <memory>
+
 #include "Export.h"
 
 class TCDescriptorBase;
@@ -73,14 +75,16 @@ protected:
     }
 
     // For Fork(): the table id, then a fresh decode of the raw copy.
+    // The clone is owned from its creation, so that a failed copy frees it.
     template <class T>
     T* t_ForkAs(T* clone) const
     {
+        std::unique_ptr<T> owned(clone);
         if (m_rawLength >= 1) {
-            clone->m_tableId = m_tableId;
-            clone->Parse(m_pRaw);
+            owned->m_tableId = m_tableId;
+            owned->Parse(m_pRaw);
         }
-        return clone;
+        return owned.release();
     }
 
     // The raw copy: owned, or borrowed from the block of the container that

@@ -7,6 +7,12 @@ inline unsigned int ReadBE16(const unsigned char* p)
     return (static_cast<unsigned int>(p[0]) << 8) | p[1];
 }
 
+// A three-letter code or other 24-bit field.
+inline unsigned int ReadBE24(const unsigned char* p)
+{
+    return (static_cast<unsigned int>(p[0]) << 16) | (static_cast<unsigned int>(p[1]) << 8) | p[2];
+}
+
 inline unsigned int ReadBE32(const unsigned char* p)
 {
     return (static_cast<unsigned int>(p[0]) << 24) | (static_cast<unsigned int>(p[1]) << 16) |

@@ -30,10 +30,9 @@ TCBaseDesc* TCDescExtension::ProcessExtensionDescriptor(const unsigned char* dat
     // A body of length 0 has no extension byte to look at.
     if (data[1] == 0)
         return new TCDescExtension();
+    // Extensions without a class of their own stay plain TCDescExtension objects.
     switch (data[2]) {
-    // One row per decoded extension class, e.g. "case 0x00: return new TCDescImageIcon();".
     case 0x04: return new TCDescT2SystemDelivery();
-    default:
-        return new TCDescExtension();
+    default: return new TCDescExtension();
     }
 }

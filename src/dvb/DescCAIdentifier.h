@@ -5,7 +5,8 @@
 
 #include "../core/BaseDesc.h"
 
-// CA_identifier_descriptor (0x53): the CA systems of a service.
+// CA_identifier_descriptor (0x53): the CA systems of a service. Each decode
+// appends to the list that CASystemIds hands out, so the ids are held decoded.
 class ZUM_EXPORT TCDescCAIdentifier : public TCBaseDesc {
 public:
     TCDescCAIdentifier();

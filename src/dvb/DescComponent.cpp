@@ -35,8 +35,7 @@ TCDescComponent::~TCDescComponent()
 
 void TCDescComponent::DeleteAll()
 {
-    m_pText.reset();
-    m_textLength = 0;
+    m_text = TTRawRun();
 }
 
 TCBaseDesc* TCDescComponent::Fork() const
@@ -62,13 +61,13 @@ int TCDescComponent::t_Parse(const unsigned char* payload, unsigned char length)
     if (!reader.Has(3))
         return reader.Consumed();
     m_language = reader.U24();
-    m_textLength = zum_text::Take(reader, reader.Left(), m_pText);
+    m_text = zum_text::TakeRun<TTRawRun>(reader, payload, reader.Left());
     return reader.Consumed();
 }
 
 bool TCDescComponent::TextChar(char* buffer, int* size) const
 {
-    return zum_text::Copy(m_pText.get(), m_textLength, buffer, size);
+    return zum_text::Copy(t_At(m_text), m_text.length, buffer, size);
 }
 
 bool TCDescComponent::m_Is(unsigned char content, int ext) const

@@ -1,8 +1,6 @@
 #ifndef ZUM_DVB_DESCCOMPONENT_H
 #define ZUM_DVB_DESCCOMPONENT_H
 
-#include <memory>
-
 #include "../core/BaseDesc.h"
 
 // component_descriptor (0x50): what a stream of the event carries, with the
@@ -21,7 +19,7 @@ public:
     unsigned char ComponentType() const { return m_componentType; }
     unsigned char ComponentTag() const { return m_componentTag; }
     unsigned int Language() const { return m_language; }
-    int TextLength() const { return m_textLength; }
+    int TextLength() const { return m_text.length; }
     // Text copy.
     bool TextChar(char* buffer, int* size) const;
 
@@ -47,8 +45,7 @@ private:
     unsigned char m_componentType = 0;
     unsigned char m_componentTag = 0;
     unsigned int m_language = 0;
-    int m_textLength = 0;
-    std::unique_ptr<unsigned char[]> m_pText;
+    TTRawRun m_text;
 };
 
 // stream_identifier_descriptor (0x52): the component tag of a stream.

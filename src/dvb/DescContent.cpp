@@ -1,8 +1,14 @@
 #include "DescContent.h"
 
-#include <cstddef>
-
 #include "../core/ByteReader.h"
+#include "../core/RecordAt.h"
+
+namespace {
+
+const int kContentEntrySize = 2;
+const int kRatingEntrySize = 4;
+
+} // namespace
 
 // ---------------------------------------------------------------- content
 
@@ -15,7 +21,6 @@ TCDescContent::~TCDescContent()
 
 void TCDescContent::DeleteAll()
 {
-    m_nibbles.clear();
     m_count = 0;
 }
 
@@ -28,27 +33,19 @@ TCBaseDesc* TCDescContent::Fork() const
     return t_ForkAs(clone);
 }
 
-int TCDescContent::t_Parse(const unsigned char* payload, unsigned char length)
+int TCDescContent::t_Parse(const unsigned char* /*payload*/, unsigned char length)
 {
-    DeleteAll();
-    TCByteReader reader(payload, length);
-    m_nibbles.reserve(length / 2 * 4);
-    while (reader.Has(2)) {
-        const unsigned int entry = reader.U16();
-        m_nibbles.push_back(static_cast<unsigned char>(entry >> 12));
-        m_nibbles.push_back(static_cast<unsigned char>((entry >> 8) & 0x0F));
-        m_nibbles.push_back(static_cast<unsigned char>((entry >> 4) & 0x0F));
-        m_nibbles.push_back(static_cast<unsigned char>(entry & 0x0F));
-    }
-    m_count = static_cast<unsigned char>(m_nibbles.size() / 4);
-    return reader.Consumed();
+    m_count = static_cast<unsigned char>(length / kContentEntrySize);
+    return m_count * kContentEntrySize;
 }
 
 unsigned char TCDescContent::m_Nibble(int index, int which) const
 {
-    if (index < 0 || index >= m_count)
+    const unsigned char* entry = RawRecordAt(t_Payload(), m_count, kContentEntrySize, index);
+    if (!entry)
         return 0;
-    return m_nibbles[static_cast<std::size_t>(index) * 4 + static_cast<std::size_t>(which)];
+    const unsigned char byte = entry[which / 2];
+    return static_cast<unsigned char>(which % 2 == 0 ? byte >> 4 : byte & 0x0F);
 }
 
 unsigned char TCDescContent::ContentNibbleLevel1(int index) const
@@ -82,7 +79,6 @@ TCDescParentalRating::~TCDescParentalRating()
 
 void TCDescParentalRating::DeleteAll()
 {
-    m_ratings.clear();
     m_count = 0;
 }
 
@@ -91,26 +87,20 @@ TCBaseDesc* TCDescParentalRating::Fork() const
     return t_ForkAs(new TCDescParentalRating());
 }
 
-int TCDescParentalRating::t_Parse(const unsigned char* payload, unsigned char length)
+int TCDescParentalRating::t_Parse(const unsigned char* /*payload*/, unsigned char length)
 {
-    DeleteAll();
-    TCByteReader reader(payload, length);
-    while (reader.Has(4)) {
-        TTRating entry;
-        entry.countryCode = reader.U24();
-        entry.rating = static_cast<unsigned char>(reader.U8());
-        m_ratings.push_back(entry);
-    }
-    m_count = static_cast<unsigned char>(m_ratings.size());
-    return reader.Consumed();
+    m_count = static_cast<unsigned char>(length / kRatingEntrySize);
+    return m_count * kRatingEntrySize;
 }
 
 unsigned int TCDescParentalRating::CountryCode(int index) const
 {
-    return index >= 0 && index < m_count ? m_ratings[static_cast<std::size_t>(index)].countryCode : 0;
+    const unsigned char* entry = RawRecordAt(t_Payload(), m_count, kRatingEntrySize, index);
+    return entry ? ReadBE24(entry) : 0;
 }
 
 unsigned char TCDescParentalRating::Rating(int index) const
 {
-    return index >= 0 && index < m_count ? m_ratings[static_cast<std::size_t>(index)].rating : 0;
+    const unsigned char* entry = RawRecordAt(t_Payload(), m_count, kRatingEntrySize, index);
+    return entry ? entry[3] : 0;
 }

@@ -1,8 +1,6 @@
 #ifndef ZUM_DVB_DESCCONTENT_H
 #define ZUM_DVB_DESCCONTENT_H
 
-#include <vector>
-
 #include "../core/BaseDesc.h"
 
 // content_descriptor (0x54): genre nibbles per entry. The loop stores the
@@ -30,10 +28,10 @@ protected:
 private:
     unsigned char m_Nibble(int index, int which) const;
 
+    // Two-byte entries of four nibbles (level 1, level 2, user 1, user 2),
+    // read from the raw copy.
     unsigned char m_count = 0;
     unsigned int m_pds = 0;
-    // Four nibbles per entry: level 1, level 2, user 1, user 2.
-    std::vector<unsigned char> m_nibbles;
 };
 
 // parental_rating_descriptor (0x55): a rating per country.
@@ -53,13 +51,8 @@ protected:
     int t_Parse(const unsigned char* payload, unsigned char length) override;
 
 private:
-    struct TTRating {
-        unsigned int countryCode;
-        unsigned char rating;
-    };
-
+    // Four-byte entries of country code and rating, read from the raw copy.
     unsigned char m_count = 0;
-    std::vector<TTRating> m_ratings;
 };
 
 #endif

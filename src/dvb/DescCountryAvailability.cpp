@@ -1,10 +1,15 @@
 #include "DescCountryAvailability.h"
 
-#include <algorithm>
-
 #include "../core/ByteReader.h"
 #include "../core/ParserTmpUtil.h"
 #include "../core/ParsingUtils.h"
+#include "../core/RecordAt.h"
+
+namespace {
+
+const int kCountrySize = 3;
+
+} // namespace
 
 TCDescCountryAvailability::TCDescCountryAvailability() : TCBaseDesc(0x49) {}
 
@@ -15,7 +20,7 @@ TCDescCountryAvailability::~TCDescCountryAvailability()
 
 void TCDescCountryAvailability::DeleteAll()
 {
-    m_countries.clear();
+    m_count = 0;
 }
 
 TCBaseDesc* TCDescCountryAvailability::Fork() const
@@ -25,41 +30,51 @@ TCBaseDesc* TCDescCountryAvailability::Fork() const
 
 int TCDescCountryAvailability::t_Parse(const unsigned char* payload, unsigned char length)
 {
-    m_countries.clear();
-    TCByteReader reader(payload, length);
-    m_availability = (reader.U8() & 0x80) != 0;
-    while (reader.Has(3))
-        m_countries.push_back(reader.U24());
-    return reader.Consumed();
+    m_count = 0;
+    if (length < 1)
+        return 0;
+    m_availability = (payload[0] & 0x80) != 0;
+    m_count = (length - 1) / kCountrySize;
+    return 1 + m_count * kCountrySize;
+}
+
+ECountryCode TCDescCountryAvailability::m_Country(int index) const
+{
+    const unsigned char* payload = t_Payload();
+    const unsigned char* code = RawRecordAt(payload ? payload + 1 : nullptr, m_count, kCountrySize, index);
+    return code ? ReadBE24(code) : 0;
 }
 
 bool TCDescCountryAvailability::IsServiceAvailable(unsigned int countryCode) const
 {
-    const bool listed = std::find(m_countries.begin(), m_countries.end(), countryCode) != m_countries.end();
+    bool listed = false;
+    for (int i = 0; i < m_count && !listed; ++i)
+        listed = m_Country(i) == countryCode;
     return listed ? m_availability : !m_availability;
 }
 
 bool TCDescCountryAvailability::Countries(std::list<ECountryCode>& countries) const
 {
-    countries.insert(countries.end(), m_countries.begin(), m_countries.end());
-    return !m_countries.empty();
+    for (int i = 0; i < m_count; ++i)
+        countries.push_back(m_Country(i));
+    return m_count > 0;
 }
 
 bool TCDescCountryAvailability::Countries(std::list<int>& countries) const
 {
     TCParsingUtils utils;
-    for (ECountryCode code : m_countries)
-        countries.push_back(utils.ConvertISO3166CountryCode(code));
-    return !m_countries.empty();
+    for (int i = 0; i < m_count; ++i)
+        countries.push_back(utils.ConvertISO3166CountryCode(m_Country(i)));
+    return m_count > 0;
 }
 
 bool TCDescCountryAvailability::Countries(std::list<ECountry>& countries) const
 {
     TCParsingUtils utils;
-    for (ECountryCode code : m_countries) {
+    for (int i = 0; i < m_count; ++i) {
         ECountry country = ECOUNTRY_NONE;
-        TCParserTmpUtil::ConvertCountryEnumValue(utils.ConvertISO3166CountryCode(code), country);
+        TCParserTmpUtil::ConvertCountryEnumValue(utils.ConvertISO3166CountryCode(m_Country(i)), country);
         countries.push_back(country);
     }
-    return !m_countries.empty();
+    return m_count > 0;
 }

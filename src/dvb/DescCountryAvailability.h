@@ -31,8 +31,12 @@ protected:
     int t_Parse(const unsigned char* payload, unsigned char length) override;
 
 private:
+    // The country at `index`, read from the raw copy; 0 outside the list.
+    ECountryCode m_Country(int index) const;
+
     bool m_availability = false;
-    std::list<ECountryCode> m_countries;
+    // Three-byte country codes behind the flag byte.
+    int m_count = 0;
 };
 
 #endif

@@ -4,6 +4,14 @@
 #include "../core/Diagnostics.h"
 #include "../core/RecordAt.h"
 
+namespace {
+
+const int kLanguageEntrySize = 4;
+const int kPageSize = 5;
+const int kSubtitleSize = 8;
+
+} // namespace
+
 // ---------------------------------------------------------------- language
 
 TCDescLanguage::TCDescLanguage() : TCBaseDesc(0x0A) {}
@@ -15,7 +23,6 @@ TCDescLanguage::~TCDescLanguage()
 
 void TCDescLanguage::DeleteAll()
 {
-    m_entries.clear();
     m_count = 0;
 }
 
@@ -24,25 +31,23 @@ TCBaseDesc* TCDescLanguage::Fork() const
     return t_ForkAs(new TCDescLanguage());
 }
 
-int TCDescLanguage::t_Parse(const unsigned char* payload, unsigned char length)
+int TCDescLanguage::t_Parse(const unsigned char* /*payload*/, unsigned char length)
 {
-    DeleteAll();
-    m_count = static_cast<unsigned short>(length / 4);
-    m_entries.assign(payload, payload + m_count * 4);
-    return m_count * 4;
+    m_count = static_cast<unsigned short>(length / kLanguageEntrySize);
+    return m_count * kLanguageEntrySize;
 }
 
 bool TCDescLanguage::Language(int index, ELanguageCode* language, EAudioType* audioType) const
 {
-    if (index < 0 || index >= m_count) {
+    const unsigned char* entry = RawRecordAt(t_Payload(), m_count, kLanguageEntrySize, index);
+    if (!entry) {
         static_cast<void>(ZUM_ASSERT(0));
         return false;
     }
     if (!language || !audioType)
         return false;
-    TCByteReader reader(m_entries.data() + static_cast<size_t>(index) * 4, 4);
-    *language = reader.U24();
-    *audioType = static_cast<EAudioType>(reader.U8());
+    *language = ReadBE24(entry);
+    *audioType = static_cast<EAudioType>(entry[3]);
     return true;
 }
 
@@ -57,7 +62,7 @@ TCDescTeletext::~TCDescTeletext()
 
 void TCDescTeletext::DeleteAll()
 {
-    m_pages.clear();
+    m_count = 0;
 }
 
 TCBaseDesc* TCDescTeletext::Fork() const
@@ -65,42 +70,40 @@ TCBaseDesc* TCDescTeletext::Fork() const
     return t_ForkAs(new TCDescTeletext());
 }
 
-int TCDescTeletext::t_Parse(const unsigned char* payload, unsigned char length)
+int TCDescTeletext::t_Parse(const unsigned char* /*payload*/, unsigned char length)
 {
-    DeleteAll();
-    TCByteReader reader(payload, length);
-    m_pages.reserve(length / 5);
-    while (reader.Has(5)) {
-        TTPage page;
-        page.language = reader.U24();
-        const unsigned int typeAndMagazine = reader.U8();
-        page.type = static_cast<unsigned char>(typeAndMagazine >> 3);
-        page.magazine = static_cast<unsigned char>(typeAndMagazine & 0x07);
-        page.page = static_cast<unsigned char>(reader.U8());
-        m_pages.push_back(page);
-    }
+    m_count = length / kPageSize;
     // A body too short for one page is taken as a whole.
-    return m_pages.empty() ? length : reader.Consumed();
+    return m_count == 0 ? length : m_count * kPageSize;
+}
+
+const unsigned char* TCDescTeletext::m_Page(int index) const
+{
+    return RawRecordAt(t_Payload(), m_count, kPageSize, index);
 }
 
 unsigned int TCDescTeletext::Iso639LangCode(int index) const
 {
-    return FieldAt(m_pages, index, &TTPage::language);
+    const unsigned char* page = m_Page(index);
+    return page ? ReadBE24(page) : 0;
 }
 
 unsigned char TCDescTeletext::TeletextType(int index) const
 {
-    return FieldAt(m_pages, index, &TTPage::type);
+    const unsigned char* page = m_Page(index);
+    return page ? static_cast<unsigned char>(page[3] >> 3) : 0;
 }
 
 unsigned char TCDescTeletext::TeletextMagzineNumber(int index) const
 {
-    return FieldAt(m_pages, index, &TTPage::magazine);
+    const unsigned char* page = m_Page(index);
+    return page ? static_cast<unsigned char>(page[3] & 0x07) : 0;
 }
 
 unsigned char TCDescTeletext::TeletextPageNumber(int index) const
 {
-    return FieldAt(m_pages, index, &TTPage::page);
+    const unsigned char* page = m_Page(index);
+    return page ? page[4] : 0;
 }
 
 // ---------------------------------------------------------------- subtitling
@@ -114,7 +117,7 @@ TCDescSubtitling::~TCDescSubtitling()
 
 void TCDescSubtitling::DeleteAll()
 {
-    m_subtitles.clear();
+    m_count = 0;
 }
 
 TCBaseDesc* TCDescSubtitling::Fork() const
@@ -122,38 +125,37 @@ TCBaseDesc* TCDescSubtitling::Fork() const
     return t_ForkAs(new TCDescSubtitling());
 }
 
-int TCDescSubtitling::t_Parse(const unsigned char* payload, unsigned char length)
+int TCDescSubtitling::t_Parse(const unsigned char* /*payload*/, unsigned char length)
 {
-    DeleteAll();
-    TCByteReader reader(payload, length);
-    m_subtitles.reserve(length / 8);
-    while (reader.Has(8)) {
-        TTSubtitle subtitle;
-        subtitle.language = reader.U24();
-        subtitle.type = static_cast<unsigned char>(reader.U8());
-        subtitle.compositionPageId = static_cast<unsigned short>(reader.U16());
-        subtitle.ancillaryPageId = static_cast<unsigned short>(reader.U16());
-        m_subtitles.push_back(subtitle);
-    }
-    return reader.Consumed();
+    m_count = length / kSubtitleSize;
+    return m_count * kSubtitleSize;
+}
+
+const unsigned char* TCDescSubtitling::m_Subtitle(int index) const
+{
+    return RawRecordAt(t_Payload(), m_count, kSubtitleSize, index);
 }
 
 unsigned int TCDescSubtitling::Iso639LangCode(int index) const
 {
-    return FieldAt(m_subtitles, index, &TTSubtitle::language);
+    const unsigned char* subtitle = m_Subtitle(index);
+    return subtitle ? ReadBE24(subtitle) : 0;
 }
 
 unsigned char TCDescSubtitling::SubtitlingType(int index) const
 {
-    return FieldAt(m_subtitles, index, &TTSubtitle::type);
+    const unsigned char* subtitle = m_Subtitle(index);
+    return subtitle ? subtitle[3] : 0;
 }
 
 unsigned short TCDescSubtitling::CompositionPageId(int index) const
 {
-    return FieldAt(m_subtitles, index, &TTSubtitle::compositionPageId);
+    const unsigned char* subtitle = m_Subtitle(index);
+    return subtitle ? static_cast<unsigned short>(ReadBE16(subtitle + 4)) : 0;
 }
 
 unsigned short TCDescSubtitling::AncillaryPageId(int index) const
 {
-    return FieldAt(m_subtitles, index, &TTSubtitle::ancillaryPageId);
+    const unsigned char* subtitle = m_Subtitle(index);
+    return subtitle ? static_cast<unsigned short>(ReadBE16(subtitle + 6)) : 0;
 }

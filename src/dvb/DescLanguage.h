@@ -1,8 +1,6 @@
 #ifndef ZUM_DVB_DESCLANGUAGE_H
 #define ZUM_DVB_DESCLANGUAGE_H
 
-#include <vector>
-
 #include <zum-platform/Codes.h>
 
 #include "../core/BaseDesc.h"
@@ -31,9 +29,8 @@ protected:
     int t_Parse(const unsigned char* payload, unsigned char length) override;
 
 private:
+    // The four-byte entries are read from the raw copy.
     unsigned short m_count = 0;
-    // The four-byte entries as sent.
-    std::vector<unsigned char> m_entries;
 };
 
 // teletext_descriptor (0x56): the teletext pages of a stream.
@@ -44,7 +41,7 @@ public:
     void DeleteAll() override;
     TCBaseDesc* Fork() const override;
 
-    int Count() const { return static_cast<int>(m_pages.size()); }
+    int Count() const { return m_count; }
     // 0 for an index outside the entries.
     unsigned int Iso639LangCode(int index) const;
     unsigned char TeletextType(int index) const;
@@ -55,13 +52,10 @@ protected:
     int t_Parse(const unsigned char* payload, unsigned char length) override;
 
 private:
-    struct TTPage {
-        unsigned int language;
-        unsigned char type;
-        unsigned char magazine;
-        unsigned char page;
-    };
-    std::vector<TTPage> m_pages;
+    const unsigned char* m_Page(int index) const;
+
+    // Five-byte pages, read from the raw copy.
+    int m_count = 0;
 };
 
 // subtitling_descriptor (0x59): the DVB subtitle services of a stream.
@@ -72,7 +66,7 @@ public:
     void DeleteAll() override;
     TCBaseDesc* Fork() const override;
 
-    int Count() const { return static_cast<int>(m_subtitles.size()); }
+    int Count() const { return m_count; }
     // 0 for an index outside the entries.
     unsigned int Iso639LangCode(int index) const;
     unsigned char SubtitlingType(int index) const;
@@ -83,13 +77,10 @@ protected:
     int t_Parse(const unsigned char* payload, unsigned char length) override;
 
 private:
-    struct TTSubtitle {
-        unsigned int language;
-        unsigned char type;
-        unsigned short compositionPageId;
-        unsigned short ancillaryPageId;
-    };
-    std::vector<TTSubtitle> m_subtitles;
+    const unsigned char* m_Subtitle(int index) const;
+
+    // Eight-byte subtitle services, read from the raw copy.
+    int m_count = 0;
 };
 
 #endif

@@ -1,5 +1,6 @@
 #include "DescLocalTimeOffset.h"
 
+#include "../core/ByteReader.h"
 #include "../core/RecordAt.h"
 #include "BcdDigits.h"
 
@@ -19,7 +20,7 @@ TCDescLocalTimeOffset::~TCDescLocalTimeOffset()
 
 void TCDescLocalTimeOffset::DeleteAll()
 {
-    m_entries.clear();
+    m_count = 0;
 }
 
 TCBaseDesc* TCDescLocalTimeOffset::Fork() const
@@ -27,41 +28,56 @@ TCBaseDesc* TCDescLocalTimeOffset::Fork() const
     return t_ForkAs(new TCDescLocalTimeOffset());
 }
 
+TTLocalTimeOffset TCDescLocalTimeOffset::m_Entry(int index) const
+{
+    TTLocalTimeOffset e;
+    const unsigned char* p = RawRecordAt(t_Payload(), m_count, kEntrySize, index);
+    if (!p)
+        return e;
+    e.countryCode = ReadBE24(p);
+    e.countryRegionId = static_cast<unsigned char>(p[3] >> 2);
+    e.localTimeOffsetPolarity = static_cast<unsigned char>(p[3] & 0x01);
+    e.localTimeOffset = ConvertBCDtoMin(p + 4);
+    e.timeOfChange = ConvertDVBtimetoATSCtime(p + 6);
+    e.nextTimeOffset = ConvertBCDtoMin(p + 11);
+    return e;
+}
+
 unsigned int TCDescLocalTimeOffset::CountryCode(int index) const
 {
-    return FieldAt(m_entries, index, &TTLocalTimeOffset::countryCode);
+    return m_Entry(index).countryCode;
 }
 
 unsigned char TCDescLocalTimeOffset::CountryRegionId(int index) const
 {
-    return FieldAt(m_entries, index, &TTLocalTimeOffset::countryRegionId);
+    return m_Entry(index).countryRegionId;
 }
 
 unsigned char TCDescLocalTimeOffset::LocalTimeOffsetPolarity(int index) const
 {
-    return FieldAt(m_entries, index, &TTLocalTimeOffset::localTimeOffsetPolarity);
+    return m_Entry(index).localTimeOffsetPolarity;
 }
 
 int TCDescLocalTimeOffset::LocalTimeOffset(int index) const
 {
-    return FieldAt(m_entries, index, &TTLocalTimeOffset::localTimeOffset);
+    return m_Entry(index).localTimeOffset;
 }
 
 unsigned int TCDescLocalTimeOffset::TimeOfChange(int index) const
 {
-    return FieldAt(m_entries, index, &TTLocalTimeOffset::timeOfChange);
+    return m_Entry(index).timeOfChange;
 }
 
 int TCDescLocalTimeOffset::NextTimeOffset(int index) const
 {
-    return FieldAt(m_entries, index, &TTLocalTimeOffset::nextTimeOffset);
+    return m_Entry(index).nextTimeOffset;
 }
 
 unsigned int TCDescLocalTimeOffset::ConvertDVBtimetoATSCtime(const unsigned char* data)
 {
     if (!data)
         return 0;
-    const unsigned int mjd = (static_cast<unsigned int>(data[0]) << 8) | data[1];
+    const unsigned int mjd = ReadBE16(data);
     const unsigned int hours = ZumBcdDigits(data + 2, 2);
     const unsigned int minutes = ZumBcdDigits(data + 3, 2);
     const unsigned int seconds = ZumBcdDigits(data + 4, 2);
@@ -84,21 +100,9 @@ int TCDescLocalTimeOffset::ConvertBCDtoMin(const unsigned char* data)
     return static_cast<int>(ZumBcdDigits(data, 2) * 60 + ZumBcdDigits(data + 1, 2));
 }
 
-int TCDescLocalTimeOffset::t_Parse(const unsigned char* payload, unsigned char length)
+int TCDescLocalTimeOffset::t_Parse(const unsigned char* /*payload*/, unsigned char length)
 {
-    DeleteAll();
     // A partial entry at the end is left undecoded.
-    const int count = length / kEntrySize;
-    for (int i = 0; i < count; ++i) {
-        const unsigned char* p = payload + i * kEntrySize;
-        TTLocalTimeOffset e;
-        e.countryCode = (static_cast<unsigned int>(p[0]) << 16) | (static_cast<unsigned int>(p[1]) << 8) | p[2];
-        e.countryRegionId = static_cast<unsigned char>(p[3] >> 2);
-        e.localTimeOffsetPolarity = static_cast<unsigned char>(p[3] & 0x01);
-        e.localTimeOffset = ConvertBCDtoMin(p + 4);
-        e.timeOfChange = ConvertDVBtimetoATSCtime(p + 6);
-        e.nextTimeOffset = ConvertBCDtoMin(p + 11);
-        m_entries.push_back(e);
-    }
-    return count * kEntrySize;
+    m_count = length / kEntrySize;
+    return m_count * kEntrySize;
 }

@@ -1,8 +1,6 @@
 #ifndef ZUM_DVB_DESCLOCALTIMEOFFSET_H
 #define ZUM_DVB_DESCLOCALTIMEOFFSET_H
 
-#include <vector>
-
 #include "../core/BaseDesc.h"
 
 // One region's entry of a local_time_offset_descriptor.
@@ -25,7 +23,7 @@ public:
     void DeleteAll() override;
     TCBaseDesc* Fork() const override;
 
-    int NumOfEntries() const { return static_cast<int>(m_entries.size()); }
+    int NumOfEntries() const { return m_count; }
     // Each answers 0 for an index outside the entries.
     unsigned int CountryCode(int index) const;
     unsigned char CountryRegionId(int index) const;
@@ -46,7 +44,11 @@ protected:
     int t_Parse(const unsigned char* payload, unsigned char length) override;
 
 private:
-    std::vector<TTLocalTimeOffset> m_entries;
+    // The entry at `index`, decoded from the raw copy; all 0 outside the entries.
+    TTLocalTimeOffset m_Entry(int index) const;
+
+    // Thirteen-byte entries, read from the raw copy.
+    int m_count = 0;
 };
 
 #endif

@@ -1,7 +1,5 @@
 #include "DescMultilingualNetworkName.h"
 
-#include <utility>
-
 #include "../core/ByteReader.h"
 #include "../core/CompareISO8859Char.h"
 #include "../core/Diagnostics.h"
@@ -10,32 +8,15 @@
 
 namespace {
 
-// Every entry starts with a language and a length byte.
-constexpr int kEntryHead = 4;
-
-template <class Record>
-int ParseRecords(TCByteReader& reader, std::vector<Record>& records)
-{
-    while (reader.Has(kEntryHead)) {
-        Record record;
-        const int taken = record.Parse(reader.Here(), reader.Left());
-        records.push_back(std::move(record));
-        if (taken <= 0 || !reader.Skip(taken))
-            break;
-    }
-    return reader.Consumed();
-}
-
 // Copies of the service names: a cut text still answers true, and an empty
 // copy answers whether there was nothing to copy.
-bool ServiceNameCopy(const std::unique_ptr<unsigned char[]>& text, unsigned char length, unsigned char* buffer,
-                     unsigned short* size)
+bool ServiceNameCopy(const zum_text::TTText& text, unsigned char* buffer, unsigned short* size)
 {
     if (!buffer || !size)
         return false;
-    if (length == 0 || *size == 0)
-        return !text;
-    return zum_text::Copy(text.get(), length, buffer, size, true);
+    if (text.length == 0 || *size == 0)
+        return !text.Data();
+    return zum_text::Copy(text, buffer, size, true);
 }
 
 } // namespace
@@ -46,15 +27,14 @@ int TCDescMultilingualNetworkName::CmultiNetworkNameDesc::Parse(const unsigned c
 {
     TCByteReader reader(data, size);
     m_language = reader.U24();
-    m_networkNameLength = static_cast<unsigned char>(zum_text::Take(reader, static_cast<int>(reader.U8()),
-                                                                    m_pNetworkName));
+    m_networkName = zum_text::Take(reader, static_cast<int>(reader.U8()));
     return reader.Consumed();
 }
 
 bool TCDescMultilingualNetworkName::CmultiNetworkNameDesc::NetworkNameChar(unsigned char* buffer,
                                                                            unsigned short* size) const
 {
-    return zum_text::Copy(m_pNetworkName.get(), m_networkNameLength, buffer, size);
+    return zum_text::Copy(m_networkName, buffer, size);
 }
 
 TCDescMultilingualNetworkName::TCDescMultilingualNetworkName() : TCBaseDesc(0x5B) {}
@@ -66,7 +46,7 @@ TCDescMultilingualNetworkName::~TCDescMultilingualNetworkName()
 
 void TCDescMultilingualNetworkName::DeleteAll()
 {
-    m_names.clear();
+    m_names.Clear();
 }
 
 TCBaseDesc* TCDescMultilingualNetworkName::Fork() const
@@ -76,15 +56,18 @@ TCBaseDesc* TCDescMultilingualNetworkName::Fork() const
 
 int TCDescMultilingualNetworkName::t_Parse(const unsigned char* payload, unsigned char length)
 {
-    DeleteAll();
-    TCByteReader reader(payload, length);
-    return ParseRecords(reader, m_names);
+    return m_names.Count(payload, length);
+}
+
+const std::vector<CmultiNetworkNameDesc>& TCDescMultilingualNetworkName::m_Names() const
+{
+    return m_names.All(t_Payload(), m_length);
 }
 
 const TCDescMultilingualNetworkName::CmultiNetworkNameDesc* TCDescMultilingualNetworkName::NetworkNameDesc(
     int index) const
 {
-    return RecordAt(m_names, index);
+    return RecordAt(m_Names(), index);
 }
 
 bool TCDescMultilingualNetworkName::GetNetworkNameByLanguage(unsigned int language, unsigned char* name,
@@ -92,7 +75,7 @@ bool TCDescMultilingualNetworkName::GetNetworkNameByLanguage(unsigned int langua
 {
     if (!ZUM_ASSERT(name != __null && size != __null))
         return false;
-    for (const CmultiNetworkNameDesc& entry : m_names) {
+    for (const CmultiNetworkNameDesc& entry : m_Names()) {
         if (!TCCompareISO8859Char::IsEqual(entry.Language(), language))
             continue;
         *size = entry.NetworkNameLength();
@@ -109,24 +92,22 @@ int TCDescMultilingualServiceName::CmultiServiceNameDesc::Parse(const unsigned c
     TCByteReader reader(data, size);
     m_language = reader.U24();
     if (reader.Has(1))
-        m_providerNameLength = static_cast<unsigned char>(zum_text::Take(reader, static_cast<int>(reader.U8()),
-                                                                         m_pProviderName));
+        m_providerName = zum_text::Take(reader, static_cast<int>(reader.U8()));
     if (reader.Has(1))
-        m_serviceNameLength = static_cast<unsigned char>(zum_text::Take(reader, static_cast<int>(reader.U8()),
-                                                                        m_pServiceName));
+        m_serviceName = zum_text::Take(reader, static_cast<int>(reader.U8()));
     return reader.Consumed();
 }
 
 bool TCDescMultilingualServiceName::CmultiServiceNameDesc::ServiceProviderNameChar(unsigned char* buffer,
                                                                                    unsigned short* size) const
 {
-    return ServiceNameCopy(m_pProviderName, m_providerNameLength, buffer, size);
+    return ServiceNameCopy(m_providerName, buffer, size);
 }
 
 bool TCDescMultilingualServiceName::CmultiServiceNameDesc::ServiceNameChar(unsigned char* buffer,
                                                                            unsigned short* size) const
 {
-    return ServiceNameCopy(m_pServiceName, m_serviceNameLength, buffer, size);
+    return ServiceNameCopy(m_serviceName, buffer, size);
 }
 
 TCDescMultilingualServiceName::TCDescMultilingualServiceName() : TCBaseDesc(0x5D) {}
@@ -138,7 +119,7 @@ TCDescMultilingualServiceName::~TCDescMultilingualServiceName()
 
 void TCDescMultilingualServiceName::DeleteAll()
 {
-    m_names.clear();
+    m_names.Clear();
 }
 
 TCBaseDesc* TCDescMultilingualServiceName::Fork() const
@@ -148,15 +129,18 @@ TCBaseDesc* TCDescMultilingualServiceName::Fork() const
 
 int TCDescMultilingualServiceName::t_Parse(const unsigned char* payload, unsigned char length)
 {
-    DeleteAll();
-    TCByteReader reader(payload, length);
-    return ParseRecords(reader, m_names);
+    return m_names.Count(payload, length);
+}
+
+const std::vector<CmultiServiceNameDesc>& TCDescMultilingualServiceName::m_Names() const
+{
+    return m_names.All(t_Payload(), m_length);
 }
 
 const TCDescMultilingualServiceName::CmultiServiceNameDesc* TCDescMultilingualServiceName::ServiceNameDesc(
     int index) const
 {
-    return RecordAt(m_names, index);
+    return RecordAt(m_Names(), index);
 }
 
 bool TCDescMultilingualServiceName::GetServiceNameByLanguage(unsigned int language, unsigned char* name,
@@ -164,7 +148,7 @@ bool TCDescMultilingualServiceName::GetServiceNameByLanguage(unsigned int langua
 {
     if (!name || !size)
         return false;
-    for (const CmultiServiceNameDesc& entry : m_names) {
+    for (const CmultiServiceNameDesc& entry : m_Names()) {
         if (TCCompareISO8859Char::IsEqual(entry.Language(), language)) {
             *size = entry.ServiceNameLength();
             return entry.ServiceNameChar(name, size);
@@ -178,7 +162,7 @@ bool TCDescMultilingualServiceName::GetServiceProviderNameByLanguage(unsigned in
 {
     if (!name || !size)
         return false;
-    for (const CmultiServiceNameDesc& entry : m_names) {
+    for (const CmultiServiceNameDesc& entry : m_Names()) {
         if (entry.Language() == language) {
             *size = entry.ServiceProviderNameLength();
             return entry.ServiceProviderNameChar(name, size);
@@ -190,12 +174,14 @@ bool TCDescMultilingualServiceName::GetServiceProviderNameByLanguage(unsigned in
 bool TCDescMultilingualServiceName::GetServiceNameByIndex(unsigned int index, unsigned int* language,
                                                           unsigned char* name, unsigned short* size) const
 {
-    if (!language || !name || !size || index >= m_names.size())
+    if (!language || !name || !size || index >= static_cast<unsigned int>(NumOfServiceName()))
         return false;
-    const CmultiServiceNameDesc& entry = m_names[index];
-    *language = entry.Language();
-    *size = entry.ServiceNameLength();
-    return entry.ServiceNameChar(name, size);
+    const CmultiServiceNameDesc* entry = RecordAt(m_Names(), static_cast<int>(index));
+    if (!entry)
+        return false;
+    *language = entry->Language();
+    *size = entry->ServiceNameLength();
+    return entry->ServiceNameChar(name, size);
 }
 
 // ---------------------------------------------------------------- component
@@ -204,13 +190,13 @@ int TCDescMultilingualComponent::CmultiComponentDesc::Parse(const unsigned char*
 {
     TCByteReader reader(data, size);
     m_language = reader.U24();
-    m_textLength = static_cast<unsigned char>(zum_text::Take(reader, static_cast<int>(reader.U8()), m_pText));
+    m_text = zum_text::Take(reader, static_cast<int>(reader.U8()));
     return reader.Consumed();
 }
 
 bool TCDescMultilingualComponent::CmultiComponentDesc::TextDescChar(char* buffer, int* size) const
 {
-    return zum_text::Copy(m_pText.get(), m_textLength, buffer, size);
+    return zum_text::Copy(m_text, buffer, size);
 }
 
 TCDescMultilingualComponent::TCDescMultilingualComponent() : TCBaseDesc(0x5E) {}
@@ -222,7 +208,7 @@ TCDescMultilingualComponent::~TCDescMultilingualComponent()
 
 void TCDescMultilingualComponent::DeleteAll()
 {
-    m_texts.clear();
+    m_texts.Clear();
 }
 
 TCBaseDesc* TCDescMultilingualComponent::Fork() const
@@ -238,10 +224,11 @@ int TCDescMultilingualComponent::t_Parse(const unsigned char* payload, unsigned 
     // A body of the tag alone holds no entry.
     if (length < 2)
         return reader.Consumed();
-    return ParseRecords(reader, m_texts);
+    return reader.Consumed() + m_texts.Count(reader.Here(), reader.Left());
 }
 
 const TCDescMultilingualComponent::CmultiComponentDesc* TCDescMultilingualComponent::ComponentDesc(int index) const
 {
-    return RecordAt(m_texts, index);
+    const unsigned char* payload = t_Payload();
+    return payload && m_length >= 2 ? m_texts.At(payload + 1, m_length - 1, index) : nullptr;
 }

@@ -1,28 +1,30 @@
 #ifndef ZUM_DVB_DESCMULTILINGUALNETWORKNAME_H
 #define ZUM_DVB_DESCMULTILINGUALNETWORKNAME_H
 
-#include <memory>
 #include <vector>
 
 #include "../core/BaseDesc.h"
+#include "DescText.h"
+#include "RecordsOnAccess.h"
 
 // multilingual_network_name_descriptor (0x5B): one name per language.
 class ZUM_EXPORT TCDescMultilingualNetworkName : public TCBaseDesc {
 public:
     // One language's name. Parse reads no further than `size` bytes and
     // answers the bytes it took; a name that claims more keeps what is there.
+    // The name stays where it stands in the bytes that Parse read, which must
+    // outlive the record (the descriptor's raw copy for its own records).
     class CmultiNetworkNameDesc {
     public:
         int Parse(const unsigned char* data, int size);
         unsigned int Language() const { return m_language; }
-        unsigned char NetworkNameLength() const { return m_networkNameLength; }
+        unsigned char NetworkNameLength() const { return static_cast<unsigned char>(m_networkName.length); }
         // Text copy.
         bool NetworkNameChar(unsigned char* buffer, unsigned short* size) const;
 
     private:
         unsigned int m_language = 0;
-        unsigned char m_networkNameLength = 0;
-        std::unique_ptr<unsigned char[]> m_pNetworkName;
+        zum_text::TTText m_networkName;
     };
 
     TCDescMultilingualNetworkName();
@@ -30,7 +32,7 @@ public:
     void DeleteAll() override;
     TCBaseDesc* Fork() const override;
 
-    int NumOfNetworkName() const { return static_cast<int>(m_names.size()); }
+    int NumOfNetworkName() const { return m_names.Size(); }
     // Null for an index outside the list.
     const CmultiNetworkNameDesc* NetworkNameDesc(int index) const;
     // The name of the first entry whose language matches, case aside. `size`
@@ -41,7 +43,10 @@ protected:
     int t_Parse(const unsigned char* payload, unsigned char length) override;
 
 private:
-    std::vector<CmultiNetworkNameDesc> m_names;
+    const std::vector<CmultiNetworkNameDesc>& m_Names() const;
+
+    // Each record starts with a language and a length byte.
+    TCRecordsOnAccess<CmultiNetworkNameDesc, 4> m_names;
 };
 
 // multilingual_service_name_descriptor (0x5D): provider and service name per language.
@@ -53,17 +58,15 @@ public:
     public:
         int Parse(const unsigned char* data, int size);
         unsigned int Language() const { return m_language; }
-        unsigned char ServiceProviderNameLength() const { return m_providerNameLength; }
-        unsigned char ServiceNameLength() const { return m_serviceNameLength; }
+        unsigned char ServiceProviderNameLength() const { return static_cast<unsigned char>(m_providerName.length); }
+        unsigned char ServiceNameLength() const { return static_cast<unsigned char>(m_serviceName.length); }
         bool ServiceProviderNameChar(unsigned char* buffer, unsigned short* size) const;
         bool ServiceNameChar(unsigned char* buffer, unsigned short* size) const;
 
     private:
         unsigned int m_language = 0;
-        unsigned char m_providerNameLength = 0;
-        std::unique_ptr<unsigned char[]> m_pProviderName;
-        unsigned char m_serviceNameLength = 0;
-        std::unique_ptr<unsigned char[]> m_pServiceName;
+        zum_text::TTText m_providerName;
+        zum_text::TTText m_serviceName;
     };
 
     TCDescMultilingualServiceName();
@@ -71,7 +74,7 @@ public:
     void DeleteAll() override;
     TCBaseDesc* Fork() const override;
 
-    int NumOfServiceName() const { return static_cast<int>(m_names.size()); }
+    int NumOfServiceName() const { return m_names.Size(); }
     // Null for an index outside the list.
     const CmultiServiceNameDesc* ServiceNameDesc(int index) const;
     // First entry whose language matches, case aside; `size` is output only.
@@ -86,7 +89,9 @@ protected:
     int t_Parse(const unsigned char* payload, unsigned char length) override;
 
 private:
-    std::vector<CmultiServiceNameDesc> m_names;
+    const std::vector<CmultiServiceNameDesc>& m_Names() const;
+
+    TCRecordsOnAccess<CmultiServiceNameDesc, 4> m_names;
 };
 
 // multilingual_component_descriptor (0x5E): a component's text per language.
@@ -97,14 +102,13 @@ public:
     public:
         int Parse(const unsigned char* data, int size);
         unsigned int Language() const { return m_language; }
-        unsigned char TextLength() const { return m_textLength; }
+        unsigned char TextLength() const { return static_cast<unsigned char>(m_text.length); }
         // Text copy.
         bool TextDescChar(char* buffer, int* size) const;
 
     private:
         unsigned int m_language = 0;
-        unsigned char m_textLength = 0;
-        std::unique_ptr<unsigned char[]> m_pText;
+        zum_text::TTText m_text;
     };
 
     TCDescMultilingualComponent();
@@ -113,7 +117,7 @@ public:
     TCBaseDesc* Fork() const override;
 
     unsigned char ComponentTag() const { return m_componentTag; }
-    int NumOfComponentText() const { return static_cast<int>(m_texts.size()); }
+    int NumOfComponentText() const { return m_texts.Size(); }
     // Null for an index outside the list.
     const CmultiComponentDesc* ComponentDesc(int index) const;
 
@@ -122,7 +126,8 @@ protected:
 
 private:
     unsigned char m_componentTag = 0;
-    std::vector<CmultiComponentDesc> m_texts;
+    // Behind the component tag.
+    TCRecordsOnAccess<CmultiComponentDesc, 4> m_texts;
 };
 
 using CmultiNetworkNameDesc = TCDescMultilingualNetworkName::CmultiNetworkNameDesc;

@@ -14,8 +14,7 @@ TCDescNetworkName::~TCDescNetworkName()
 
 void TCDescNetworkName::DeleteAll()
 {
-    m_pNetworkName.reset();
-    m_networkNameLength = 0;
+    m_networkName = TTRawRun();
 }
 
 TCBaseDesc* TCDescNetworkName::Fork() const
@@ -25,14 +24,13 @@ TCBaseDesc* TCDescNetworkName::Fork() const
 
 int TCDescNetworkName::t_Parse(const unsigned char* payload, unsigned char length)
 {
-    m_pNetworkName = zum_text::Keep(payload, length);
-    m_networkNameLength = m_pNetworkName ? length : 0;
-    return m_networkNameLength;
+    m_networkName = t_Run(payload, payload, length);
+    return length;
 }
 
 bool TCDescNetworkName::NetworkNameText(unsigned char* buffer, unsigned short* size) const
 {
-    return zum_text::Copy(m_pNetworkName.get(), m_networkNameLength, buffer, size);
+    return zum_text::Copy(t_At(m_networkName), m_networkName.length, buffer, size);
 }
 
 // ---------------------------------------------------------------- bouquet name
@@ -48,7 +46,7 @@ TCDescBouquetName::~TCDescBouquetName()
 
 void TCDescBouquetName::DeleteAll()
 {
-    m_pBouquetName.reset();
+    m_bouquetName = TTRawRun();
     m_bouquetNameLength = 0;
 }
 
@@ -59,14 +57,14 @@ TCBaseDesc* TCDescBouquetName::Fork() const
 
 int TCDescBouquetName::t_Parse(const unsigned char* payload, unsigned char length)
 {
-    m_pBouquetName = zum_text::Keep(payload, length);
-    m_bouquetNameLength = m_pBouquetName ? length : 0;
-    return m_bouquetNameLength;
+    m_bouquetName = t_Run(payload, payload, length);
+    m_bouquetNameLength = length;
+    return length;
 }
 
 bool TCDescBouquetName::BouquetNameText(unsigned char* buffer, unsigned short* size) const
 {
-    return zum_text::Copy(m_pBouquetName.get(), m_bouquetNameLength, buffer, size);
+    return zum_text::Copy(t_At(m_bouquetName), m_bouquetName.length, buffer, size);
 }
 
 // ---------------------------------------------------------------- multilingual bouquet name
@@ -102,7 +100,7 @@ int TCDescMultilingualBouquetName::t_Parse(const unsigned char* payload, unsigne
     // A name that claims more than the body holds keeps its length but no text.
     if (!reader.Has(m_bouquetNameLength))
         return reader.Consumed();
-    m_pBouquetName = zum_text::Keep(reader.Here(), m_bouquetNameLength);
+    m_bouquetName = t_Run(payload, reader.Here(), m_bouquetNameLength);
     // The entries of the other languages are not kept, and are no fault.
     return length;
 }

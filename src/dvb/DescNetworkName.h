@@ -1,8 +1,6 @@
 #ifndef ZUM_DVB_DESCNETWORKNAME_H
 #define ZUM_DVB_DESCNETWORKNAME_H
 
-#include <memory>
-
 #include "../core/BaseDesc.h"
 
 // network_name_descriptor (0x40): the whole body is the name, raw.
@@ -13,7 +11,7 @@ public:
     void DeleteAll() override;
     TCBaseDesc* Fork() const override;
 
-    unsigned char NetworkNameLength() const { return m_networkNameLength; }
+    unsigned char NetworkNameLength() const { return m_networkName.length; }
     // Text copy.
     bool NetworkNameText(unsigned char* buffer, unsigned short* size) const;
 
@@ -21,8 +19,7 @@ protected:
     int t_Parse(const unsigned char* payload, unsigned char length) override;
 
 private:
-    unsigned char m_networkNameLength = 0;
-    std::unique_ptr<unsigned char[]> m_pNetworkName;
+    TTRawRun m_networkName;
 };
 
 // bouquet_name_descriptor (0x47): the whole body is the name, raw.
@@ -41,8 +38,9 @@ protected:
     explicit TCDescBouquetName(int tag);
     int t_Parse(const unsigned char* payload, unsigned char length) override;
 
+    // The length as sent; the run is empty when the text is not kept.
     unsigned char m_bouquetNameLength = 0;
-    std::unique_ptr<unsigned char[]> m_pBouquetName;
+    TTRawRun m_bouquetName;
 };
 
 // multilingual_bouquet_name_descriptor (0x5C): only the first language's

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "../core/ByteReader.h"
 #include "../core/RecordAt.h"
 #include "BcdDigits.h"
 
@@ -9,12 +10,7 @@ namespace {
 
 // The fixed body of the satellite and terrestrial descriptors.
 const int kDeliveryBodySize = 11;
-
-unsigned int ReadU32(const unsigned char* p)
-{
-    return (static_cast<unsigned int>(p[0]) << 24) | (static_cast<unsigned int>(p[1]) << 16) |
-           (static_cast<unsigned int>(p[2]) << 8) | p[3];
-}
+const int kFrequencySize = 4;
 
 int SatelliteModulation(unsigned int code)
 {
@@ -123,7 +119,7 @@ TCBaseDesc* TCDescTerrestrialDeliverySystem::Fork() const
 int TCDescTerrestrialDeliverySystem::t_Parse(const unsigned char* payload, unsigned char length)
 {
     if (length >= 4)
-        m_centreFrequency = ReadU32(payload);
+        m_centreFrequency = ReadBE32(payload);
     if (length >= 5)
         m_bandwidth = static_cast<unsigned char>(payload[4] >> 5);
     if (length >= 6) {
@@ -151,7 +147,7 @@ TCDescFrequencyList::~TCDescFrequencyList()
 
 void TCDescFrequencyList::DeleteAll()
 {
-    m_centreFrequencies.clear();
+    m_count = 0;
 }
 
 TCBaseDesc* TCDescFrequencyList::Fork() const
@@ -161,8 +157,12 @@ TCBaseDesc* TCDescFrequencyList::Fork() const
 
 float TCDescFrequencyList::CentreFrequency(int index) const
 {
-    const float* frequency = RecordAt(m_centreFrequencies, index);
-    return frequency ? *frequency : 0.0f;
+    const unsigned char* payload = t_Payload();
+    const unsigned char* entry = RawRecordAt(payload ? payload + 1 : nullptr, m_count, kFrequencySize, index);
+    if (!entry)
+        return 0.0f;
+    const int32_t value = static_cast<int32_t>(ReadBE32(entry));
+    return static_cast<float>(value / 100000.0);
 }
 
 int TCDescFrequencyList::t_Parse(const unsigned char* payload, unsigned char length)
@@ -171,10 +171,6 @@ int TCDescFrequencyList::t_Parse(const unsigned char* payload, unsigned char len
     if (length < 1)
         return 0;
     m_codingType = static_cast<unsigned char>(payload[0] & 0x03);
-    const int count = (length - 1) / 4;
-    for (int i = 0; i < count; ++i) {
-        const int32_t value = static_cast<int32_t>(ReadU32(payload + 1 + i * 4));
-        m_centreFrequencies.push_back(static_cast<float>(value / 100000.0));
-    }
-    return 1 + count * 4;
+    m_count = static_cast<unsigned char>((length - 1) / kFrequencySize);
+    return 1 + m_count * kFrequencySize;
 }

@@ -1,8 +1,6 @@
 #ifndef ZUM_DVB_DESCSATELLITEDELIVERYSYSTEM_H
 #define ZUM_DVB_DESCSATELLITEDELIVERYSYSTEM_H
 
-#include <vector>
-
 #include "../core/BaseDesc.h"
 
 // Delivery system descriptors: where a transport stream is found, with the
@@ -122,7 +120,7 @@ public:
     TCBaseDesc* Fork() const override;
 
     unsigned char CodingType() const { return m_codingType; }
-    int NumOfEntries() const { return static_cast<int>(m_centreFrequencies.size()); }
+    int NumOfEntries() const { return m_count; }
     // MHz; 0.0 for an index outside the entries.
     float CentreFrequency(int index) const;
 
@@ -131,7 +129,8 @@ protected:
 
 private:
     unsigned char m_codingType = 0;
-    std::vector<float> m_centreFrequencies;
+    // Four-byte entries behind the coding type, read from the raw copy.
+    unsigned char m_count = 0;
 };
 
 #endif

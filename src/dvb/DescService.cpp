@@ -9,6 +9,9 @@
 
 namespace {
 
+// Service id and type.
+const int kServiceEntrySize = 3;
+
 bool IsPresentedServiceType(unsigned char type)
 {
     if (type <= 0x0C || (type >= 0x0E && type <= 0x20))
@@ -23,14 +26,13 @@ bool IsPresentedServiceType(unsigned char type)
 }
 
 // The service names answer through a reference and report an empty copy as size 0.
-bool NameText(const std::unique_ptr<unsigned char[]>& text, unsigned char length, unsigned char* buffer,
-              unsigned short& size)
+bool NameText(const unsigned char* text, unsigned char length, unsigned char* buffer, unsigned short& size)
 {
     if (!buffer || !text || length == 0 || size == 0) {
         size = 0;
         return false;
     }
-    return zum_text::Copy(text.get(), length, buffer, &size);
+    return zum_text::Copy(text, length, buffer, &size);
 }
 
 } // namespace
@@ -46,10 +48,8 @@ TCDescService::~TCDescService()
 
 void TCDescService::DeleteAll()
 {
-    m_pProviderName.reset();
-    m_pServiceName.reset();
-    m_providerNameLength = 0;
-    m_serviceNameLength = 0;
+    m_providerName = TTRawRun();
+    m_serviceName = TTRawRun();
 }
 
 TCBaseDesc* TCDescService::Fork() const
@@ -84,20 +84,20 @@ int TCDescService::t_Parse(const unsigned char* payload, unsigned char length)
     m_serviceType = static_cast<unsigned char>(t_AllocateServiceType(static_cast<unsigned char>(reader.U8())));
     // A name that claims more than the body holds keeps what is there.
     if (reader.Has(1))
-        m_providerNameLength = static_cast<unsigned char>(zum_text::Take(reader, reader.U8(), m_pProviderName));
+        m_providerName = zum_text::TakeRun<TTRawRun>(reader, payload, static_cast<int>(reader.U8()));
     if (reader.Has(1))
-        m_serviceNameLength = static_cast<unsigned char>(zum_text::Take(reader, reader.U8(), m_pServiceName));
+        m_serviceName = zum_text::TakeRun<TTRawRun>(reader, payload, static_cast<int>(reader.U8()));
     return reader.Consumed();
 }
 
 bool TCDescService::ServiceProviderNameText(unsigned char* buffer, unsigned short& size) const
 {
-    return NameText(m_pProviderName, m_providerNameLength, buffer, size);
+    return NameText(t_At(m_providerName), m_providerName.length, buffer, size);
 }
 
 bool TCDescService::ServiceNameText(unsigned char* buffer, unsigned short& size) const
 {
-    return NameText(m_pServiceName, m_serviceNameLength, buffer, size);
+    return NameText(t_At(m_serviceName), m_serviceName.length, buffer, size);
 }
 
 // ---------------------------------------------------------------- service list
@@ -111,7 +111,6 @@ TCDescServiceList::~TCDescServiceList()
 
 void TCDescServiceList::DeleteAll()
 {
-    m_entries.clear();
     m_numberOfLoop = 0;
 }
 
@@ -120,27 +119,20 @@ TCBaseDesc* TCDescServiceList::Fork() const
     return t_ForkAs(new TCDescServiceList());
 }
 
-int TCDescServiceList::t_Parse(const unsigned char* payload, unsigned char length)
+int TCDescServiceList::t_Parse(const unsigned char* /*payload*/, unsigned char length)
 {
-    DeleteAll();
-    TCByteReader reader(payload, length);
-    m_entries.reserve(length / 3);
-    while (reader.Has(3)) {
-        TTEntry entry;
-        entry.serviceId = static_cast<unsigned short>(reader.U16());
-        entry.serviceType = static_cast<unsigned char>(reader.U8());
-        m_entries.push_back(entry);
-    }
-    m_numberOfLoop = static_cast<int>(m_entries.size());
-    return reader.Consumed();
+    m_numberOfLoop = length / kServiceEntrySize;
+    return m_numberOfLoop * kServiceEntrySize;
 }
 
 unsigned short TCDescServiceList::ServiceId(int index) const
 {
-    return FieldAt(m_entries, index, &TTEntry::serviceId, 0xFFFF);
+    const unsigned char* entry = RawRecordAt(t_Payload(), m_numberOfLoop, kServiceEntrySize, index);
+    return entry ? static_cast<unsigned short>(ReadBE16(entry)) : 0xFFFF;
 }
 
 unsigned char TCDescServiceList::ServiceType(int index) const
 {
-    return FieldAt(m_entries, index, &TTEntry::serviceType, 0xFF);
+    const unsigned char* entry = RawRecordAt(t_Payload(), m_numberOfLoop, kServiceEntrySize, index);
+    return entry ? entry[2] : 0xFF;
 }

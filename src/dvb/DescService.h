@@ -1,9 +1,6 @@
 #ifndef ZUM_DVB_DESCSERVICE_H
 #define ZUM_DVB_DESCSERVICE_H
 
-#include <memory>
-#include <vector>
-
 #include "../core/BaseDesc.h"
 
 // service_descriptor (0x48): the service type as the receiver knows it, and
@@ -17,8 +14,8 @@ public:
 
     // 0xFF for a type the receiver does not present.
     unsigned char ServiceType() const { return m_serviceType; }
-    unsigned char ServiceProviderNameLength() const { return m_providerNameLength; }
-    unsigned char ServiceNameLength() const { return m_serviceNameLength; }
+    unsigned char ServiceProviderNameLength() const { return m_providerName.length; }
+    unsigned char ServiceNameLength() const { return m_serviceName.length; }
     // Text copy; nothing to copy also sets the size to 0.
     bool ServiceProviderNameText(unsigned char* buffer, unsigned short& size) const;
     bool ServiceNameText(unsigned char* buffer, unsigned short& size) const;
@@ -29,10 +26,8 @@ protected:
     virtual int t_AllocateServiceType(unsigned char type);
 
     unsigned char m_serviceType = 0;
-    unsigned char m_providerNameLength = 0;
-    std::unique_ptr<unsigned char[]> m_pProviderName;
-    unsigned char m_serviceNameLength = 0;
-    std::unique_ptr<unsigned char[]> m_pServiceName;
+    TTRawRun m_providerName;
+    TTRawRun m_serviceName;
 };
 
 // service_list_descriptor (0x41): service ids with their types.
@@ -52,12 +47,8 @@ protected:
     int t_Parse(const unsigned char* payload, unsigned char length) override;
 
 private:
-    struct TTEntry {
-        unsigned short serviceId;
-        unsigned char serviceType;
-    };
+    // The entries are read from the raw copy, three bytes each.
     int m_numberOfLoop = 0;
-    std::vector<TTEntry> m_entries;
 };
 
 #endif

@@ -1,11 +1,16 @@
 #include "DescShortEvent.h"
 
-#include <algorithm>
-
 #include "../core/ByteReader.h"
 #include "../core/CompareISO8859Char.h"
 #include "../core/Log.h"
 #include "DescText.h"
+
+namespace {
+
+// Numbers, language and length of items come before the items.
+const int kItemsStart = 5;
+
+} // namespace
 
 // ---------------------------------------------------------------- short event
 
@@ -18,9 +23,8 @@ TCDescShortEvent::~TCDescShortEvent()
 
 void TCDescShortEvent::DeleteAll()
 {
-    m_pEventName.reset();
-    m_pText.reset();
-    m_eventNameLength = 0;
+    m_eventName = TTRawRun();
+    m_text = TTRawRun();
     m_textLength = 0;
 }
 
@@ -39,7 +43,7 @@ int TCDescShortEvent::t_Parse(const unsigned char* payload, unsigned char length
     }
     m_language = reader.U24();
     const int nameLength = static_cast<int>(reader.U8());
-    m_eventNameLength = static_cast<unsigned char>(zum_text::Take(reader, nameLength, m_pEventName));
+    m_eventName = zum_text::TakeRun<TTRawRun>(reader, payload, nameLength);
     // A name that reaches the end leaves no text length to read.
     if (4 + nameLength >= length)
         return length;
@@ -48,18 +52,18 @@ int TCDescShortEvent::t_Parse(const unsigned char* payload, unsigned char length
     // A text that runs over is not kept; its length stays as read.
     if (m_textLength > length - position)
         return position;
-    zum_text::Take(reader, m_textLength, m_pText);
+    m_text = zum_text::TakeRun<TTRawRun>(reader, payload, m_textLength);
     return reader.Consumed();
 }
 
 bool TCDescShortEvent::EventNameChar(unsigned char* buffer, unsigned short* size) const
 {
-    return zum_text::Copy(m_pEventName.get(), m_eventNameLength, buffer, size);
+    return zum_text::Copy(t_At(m_eventName), m_eventName.length, buffer, size);
 }
 
 bool TCDescShortEvent::TextChar(unsigned char* buffer, unsigned short* size) const
 {
-    return zum_text::Copy(m_pText.get(), m_textLength, buffer, size);
+    return zum_text::Copy(t_At(m_text), m_text.length, buffer, size);
 }
 
 // ---------------------------------------------------------------- ISDB short event
@@ -78,10 +82,11 @@ int TCDescShortEventISDB::t_Parse(const unsigned char* payload, unsigned char le
         return 0;
     m_language = reader.U24();
     if (reader.Has(1))
-        m_eventNameLength = static_cast<unsigned char>(zum_text::Take(reader, static_cast<int>(reader.U8()),
-                                                                      m_pEventName));
-    if (reader.Has(1))
-        m_textLength = static_cast<unsigned char>(zum_text::Take(reader, static_cast<int>(reader.U8()), m_pText));
+        m_eventName = zum_text::TakeRun<TTRawRun>(reader, payload, static_cast<int>(reader.U8()));
+    if (reader.Has(1)) {
+        m_text = zum_text::TakeRun<TTRawRun>(reader, payload, static_cast<int>(reader.U8()));
+        m_textLength = m_text.length;
+    }
     return reader.Consumed();
 }
 
@@ -94,25 +99,23 @@ int TCDescExtendedEvent::CitemDesc::Parse(const unsigned char* data, int size)
                  size);
         return size;
     }
-    m_descriptionLength = std::min(static_cast<int>(data[0]), size - 1);
-    m_pDescription = zum_text::Keep(data + 1, m_descriptionLength);
-    m_itemLength = 0;
-    m_pItem.reset();
-    if (1 + m_descriptionLength == size)
+    TCByteReader reader(data, size);
+    m_description = zum_text::Take(reader, static_cast<int>(reader.U8()));
+    m_item = zum_text::TTText();
+    if (!reader.Has(1))
         return size;
-    m_itemLength = std::min(static_cast<int>(data[1 + m_descriptionLength]), size - m_descriptionLength - 2);
-    m_pItem = zum_text::Keep(data + 2 + m_descriptionLength, m_itemLength);
-    return 2 + m_descriptionLength + m_itemLength;
+    m_item = zum_text::Take(reader, static_cast<int>(reader.U8()));
+    return reader.Consumed();
 }
 
 bool TCDescExtendedEvent::CitemDesc::ItemDescriptionChar(char* buffer, int* size) const
 {
-    return zum_text::Copy(m_pDescription.get(), m_descriptionLength, buffer, size);
+    return zum_text::Copy(m_description, buffer, size);
 }
 
 bool TCDescExtendedEvent::CitemDesc::ItemChar(char* buffer, int* size) const
 {
-    return zum_text::Copy(m_pItem.get(), m_itemLength, buffer, size);
+    return zum_text::Copy(m_item, buffer, size);
 }
 
 // ---------------------------------------------------------------- extended event
@@ -126,8 +129,8 @@ TCDescExtendedEvent::~TCDescExtendedEvent()
 
 void TCDescExtendedEvent::DeleteAll()
 {
-    m_items.clear();
-    m_pText.reset();
+    m_items.Clear();
+    m_text = TTRawRun();
     m_textLength = 0;
 }
 
@@ -152,7 +155,7 @@ int TCDescExtendedEvent::t_Parse(const unsigned char* payload, unsigned char len
         return reader.Consumed();
     m_language = reader.U24();
     m_lengthOfItems = static_cast<unsigned char>(reader.U8());
-    const int itemsStart = reader.Consumed();
+    const int itemsStart = kItemsStart;
     // Items that reach the end leave no text length to read.
     if (itemsStart + m_lengthOfItems >= length)
         return itemsStart;
@@ -162,22 +165,15 @@ int TCDescExtendedEvent::t_Parse(const unsigned char* payload, unsigned char len
     if (textLength > length - position)
         return position;
 
-    for (int at = 0; at < m_lengthOfItems;) {
-        std::unique_ptr<CitemDesc> item(new CitemDesc());
-        const int taken = item->Parse(payload + itemsStart + at, m_lengthOfItems - at);
-        m_items.push_back(std::move(item));
-        if (taken <= 0)
-            break;
-        at += taken;
-    }
-    m_pText = zum_text::Keep(payload + position, textLength);
+    m_items.Count(payload + itemsStart, m_lengthOfItems);
+    m_text = t_Run(payload, payload + position, textLength);
     m_textLength = static_cast<unsigned int>(textLength);
     return position + textLength;
 }
 
 bool TCDescExtendedEvent::TextChar(unsigned char* buffer, unsigned short* size) const
 {
-    return zum_text::Copy(m_pText.get(), static_cast<int>(m_textLength), buffer, size, true);
+    return zum_text::Copy(t_At(m_text), m_text.length, buffer, size, true);
 }
 
 bool TCDescExtendedEvent::FlagEqual(const TCDescExtendedEvent* other) const
@@ -191,5 +187,8 @@ bool TCDescExtendedEvent::FlagEqual(const TCDescExtendedEvent* other) const
 
 const TCDescExtendedEvent::CitemDesc* TCDescExtendedEvent::Item(unsigned int index) const
 {
-    return index < m_items.size() ? m_items[index].get() : nullptr;
+    const unsigned char* payload = t_Payload();
+    if (!payload || index >= static_cast<unsigned int>(m_items.Size()))
+        return nullptr;
+    return m_items.At(payload + kItemsStart, m_lengthOfItems, static_cast<int>(index));
 }

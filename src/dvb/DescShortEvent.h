@@ -1,10 +1,9 @@
 #ifndef ZUM_DVB_DESCSHORTEVENT_H
 #define ZUM_DVB_DESCSHORTEVENT_H
 
-#include <memory>
-#include <vector>
-
 #include "../core/BaseDesc.h"
+#include "DescText.h"
+#include "RecordsOnAccess.h"
 
 // short_event_descriptor (0x4D): language, event name and text, raw.
 class ZUM_EXPORT TCDescShortEvent : public TCBaseDesc {
@@ -15,7 +14,7 @@ public:
     TCBaseDesc* Fork() const override;
 
     unsigned int Language() const { return m_language; }
-    unsigned char EventNameLength() const { return m_eventNameLength; }
+    unsigned char EventNameLength() const { return m_eventName.length; }
     // The length the body gave, also when the text itself was not kept.
     unsigned char TextLength() const { return m_textLength; }
     // Text copy.
@@ -26,10 +25,10 @@ protected:
     int t_Parse(const unsigned char* payload, unsigned char length) override;
 
     unsigned int m_language = 0;
-    unsigned char m_eventNameLength = 0;
-    std::unique_ptr<unsigned char[]> m_pEventName;
+    TTRawRun m_eventName;
+    // The length as sent; the run is empty when the text is not kept.
     unsigned char m_textLength = 0;
-    std::unique_ptr<unsigned char[]> m_pText;
+    TTRawRun m_text;
 };
 
 // The ISDB short event: the same fields, the text not held to the body's
@@ -47,22 +46,21 @@ protected:
 // its items.
 class ZUM_EXPORT TCDescExtendedEvent : public TCBaseDesc {
 public:
-    // One item: description and text, raw.
+    // One item: description and text, raw, where they stand in the bytes
+    // that Parse read, which must outlive the item.
     class CitemDesc {
     public:
         // Reads no more than `size` bytes; answers the bytes taken.
         int Parse(const unsigned char* data, int size);
-        int ItemDescriptionLength() const { return m_descriptionLength; }
-        int ItemLength() const { return m_itemLength; }
+        int ItemDescriptionLength() const { return m_description.length; }
+        int ItemLength() const { return m_item.length; }
         // Text copy.
         bool ItemDescriptionChar(char* buffer, int* size) const;
         bool ItemChar(char* buffer, int* size) const;
 
     private:
-        int m_descriptionLength = 0;
-        std::unique_ptr<unsigned char[]> m_pDescription;
-        int m_itemLength = 0;
-        std::unique_ptr<unsigned char[]> m_pItem;
+        zum_text::TTText m_description;
+        zum_text::TTText m_item;
     };
 
     TCDescExtendedEvent();
@@ -81,19 +79,19 @@ public:
     bool FlagEqual(const TCDescExtendedEvent* other) const;
     // Null for an index outside the items.
     const CitemDesc* Item(unsigned int index) const;
-    unsigned int SizeOfItem() const { return static_cast<unsigned int>(m_items.size()); }
+    unsigned int SizeOfItem() const { return static_cast<unsigned int>(m_items.Size()); }
 
 protected:
     int t_Parse(const unsigned char* payload, unsigned char length) override;
 
 private:
-    std::vector<std::unique_ptr<CitemDesc>> m_items;
+    TCRecordsOnAccess<CitemDesc, 1> m_items;
     unsigned char m_descriptorNumber = 0;
     unsigned char m_lastDescriptorNumber = 0;
     unsigned int m_language = 0;
     unsigned char m_lengthOfItems = 0;
     unsigned int m_textLength = 0;
-    std::unique_ptr<unsigned char[]> m_pText;
+    TTRawRun m_text;
 };
 
 using CitemDesc = TCDescExtendedEvent::CitemDesc;

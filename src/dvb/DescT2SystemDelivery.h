@@ -9,7 +9,8 @@
 class TCByteReader;
 
 // T2_delivery_system_descriptor (extension 0x04, tag 0x7F04). The cell maps
-// grow over decodes of one object; frequencies are kept as sent.
+// grow over decodes of one object, so they outlive the raw copy that fed them
+// and are held decoded; frequencies are kept as sent.
 class ZUM_EXPORT TCDescT2SystemDelivery : public TCDescExtension {
 public:
     TCDescT2SystemDelivery();

@@ -49,4 +49,8 @@ public:
     unsigned short GetChannelNumber(const unsigned char* entry) const override;
 };
 
+// Internal: the layout that a version-1 logical channel descriptor of `tag`
+// reads under `privateDataSpecifier`; one shared object per layout.
+const ILCNDescParseHelper& LCNLayoutOf(unsigned int privateDataSpecifier, int tag);
+
 #endif

@@ -1,18 +1,18 @@
 #include "DescLogicalChannel.h"
 
-#include <memory>
-
+#include "../core/RecordAt.h"
 #include "../dvb/LCNDescParseHelper.h"
 
 namespace {
 
 const int kEntrySize = 4;
 const unsigned int kNoNumber = 0xFFFFFFFF;
+const std::size_t kWalkEnded = static_cast<std::size_t>(-1);
 
 } // namespace
 
 TCDescLogicalChannel::TCDescLogicalChannel(int tag, unsigned int privateDataSpecifier)
-    : TCBaseDesc(tag), m_privateDataSpecifier(privateDataSpecifier), m_readPosition(m_entries.end())
+    : TCBaseDesc(tag), m_privateDataSpecifier(privateDataSpecifier)
 {
 }
 
@@ -23,8 +23,9 @@ TCDescLogicalChannel::~TCDescLogicalChannel()
 
 void TCDescLogicalChannel::DeleteAll()
 {
-    m_entries.clear();
-    m_readPosition = m_entries.end();
+    m_entries.Clear();
+    m_rawEntries = 0;
+    m_readPosition = kWalkEnded;
 }
 
 TCBaseDesc* TCDescLogicalChannel::Fork() const
@@ -32,59 +33,45 @@ TCBaseDesc* TCDescLogicalChannel::Fork() const
     return t_ForkAs(new TCDescLogicalChannel(m_tag, m_privateDataSpecifier));
 }
 
-_TTDescLCN TCDescLogicalChannel::EmptyEntry(unsigned short serviceId)
+int TCDescLogicalChannel::t_Parse(const unsigned char* /*payload*/, unsigned char length)
 {
-    _TTDescLCN entry{};
-    entry.serviceId = serviceId;
-    entry.visibleFlag = 1;
-    entry.numericSelectionFlag = 1;
-    entry.polsatServiceId = 0xFFFF;
-    return entry;
-}
-
-ILCNDescParseHelper* TCDescLogicalChannel::NewParseHelper(unsigned int privateDataSpecifier, int tag)
-{
-    switch (privateDataSpecifier) {
-    case 0x00000014:
-    case 0x00000022:
-    case 0x00000029:
-    case 0x00006003:
-    case 0x000062E1:
-    case 0xECCA0001:
-    case 0xEFFFFFFF: return new TCLCNDescParseHelper_Nordig();
-    case 0x000001A0:
-    case 0x00006001:
-    case 0x002FFFFF:
-    case 0x007FFFFF: return new TCLCNDescParseHelper_Philips();
-    case 0x000022C6:
-    case 0x0000233A:
-    case 0x00006002:
-        if (tag == 0x88)
-            return new TCLCNDescParseHelper_EBook();
-        return new TCLCNDescParseHelper_DBook();
-    case 0x010FFFFF: return new TCLCNDescParseHelper_M7();
-    default: return new TCLCNDescParseHelper_EBook();
-    }
-}
-
-int TCDescLogicalChannel::t_Parse(const unsigned char* payload, unsigned char length)
-{
-    const std::unique_ptr<ILCNDescParseHelper> helper(NewParseHelper(m_privateDataSpecifier, m_tag));
-    const int count = length / kEntrySize;
-    for (int i = 0; i < count; ++i) {
-        const unsigned char* raw = payload + i * kEntrySize;
-        _TTDescLCN entry = EmptyEntry(helper->GetServiceId(raw));
-        entry.channelNumber = helper->GetChannelNumber(raw);
-        // Tag 0x82 carries no visible flag in its entries.
-        entry.visibleFlag = (m_tag == 0x82 || helper->GetVisibleFlag(raw)) ? 1 : 0;
-        t_AddEntry(entry);
-    }
-    return count * kEntrySize;
+    m_rawEntries = length / kEntrySize;
+    return m_rawEntries * kEntrySize;
 }
 
 void TCDescLogicalChannel::t_AddEntry(const _TTDescLCN& entry)
 {
-    m_entries.emplace(entry.serviceId, entry);
+    m_entries.Add(entry);
+}
+
+int TCDescLogicalChannel::m_RawCount() const
+{
+    return t_Payload() ? m_rawEntries : 0;
+}
+
+_TTDescLCN TCDescLogicalChannel::m_RawEntry(int index) const
+{
+    const ILCNDescParseHelper& layout = LCNLayoutOf(m_privateDataSpecifier, m_tag);
+    const unsigned char* raw = RawRecordAt(t_Payload(), m_RawCount(), kEntrySize, index);
+    _TTDescLCN entry = LCNEmptyEntry(layout.GetServiceId(raw));
+    entry.channelNumber = layout.GetChannelNumber(raw);
+    // Tag 0x82 carries no visible flag in its entries.
+    entry.visibleFlag = (m_tag == 0x82 || layout.GetVisibleFlag(raw)) ? 1 : 0;
+    return entry;
+}
+
+bool TCDescLogicalChannel::m_First(unsigned short serviceId, _TTDescLCN& entry) const
+{
+    for (int i = 0; i < m_RawCount(); ++i) {
+        entry = m_RawEntry(i);
+        if (entry.serviceId == serviceId)
+            return true;
+    }
+    if (const _TTDescLCN* added = m_entries.FirstOf(serviceId)) {
+        entry = *added;
+        return true;
+    }
+    return false;
 }
 
 bool TCDescLogicalChannel::GetAvailableRegions(std::list<unsigned short>& /*regions*/) const
@@ -94,26 +81,32 @@ bool TCDescLogicalChannel::GetAvailableRegions(std::list<unsigned short>& /*regi
 
 unsigned int TCDescLogicalChannel::NumOfServices(unsigned short /*region*/) const
 {
-    return static_cast<unsigned int>(m_entries.size());
+    return static_cast<unsigned int>(m_entries.Size()) + static_cast<unsigned int>(m_RawCount());
 }
 
 bool TCDescLogicalChannel::CheckServiceId(unsigned short serviceId, ECountryCode /*country*/) const
 {
-    return m_entries.find(serviceId) != m_entries.end();
+    _TTDescLCN entry{};
+    return m_First(serviceId, entry);
 }
 
 unsigned int TCDescLogicalChannel::LogicalChannelNumber(unsigned short serviceId) const
 {
-    const auto it = m_entries.find(serviceId);
-    return it == m_entries.end() ? kNoNumber : it->second.channelNumber;
+    _TTDescLCN entry{};
+    return m_First(serviceId, entry) ? entry.channelNumber : kNoNumber;
 }
 
 void TCDescLogicalChannel::GetLogicalChannelNumberList(unsigned short serviceId,
                                                        std::list<unsigned short>& numbers) const
 {
-    const auto range = m_entries.equal_range(serviceId);
-    for (auto it = range.first; it != range.second; ++it)
-        numbers.push_back(it->second.channelNumber);
+    for (int i = 0; i < m_RawCount(); ++i) {
+        const _TTDescLCN entry = m_RawEntry(i);
+        if (entry.serviceId == serviceId)
+            numbers.push_back(entry.channelNumber);
+    }
+    const TCLCNEntryList::Range range = m_entries.EntriesOf(serviceId);
+    for (const _TTDescLCN* entry = range.first; entry != range.second; ++entry)
+        numbers.push_back(entry->channelNumber);
 }
 
 bool TCDescLogicalChannel::FreesatServiceId(unsigned short /*serviceId*/, unsigned short& /*freesatId*/) const
@@ -133,8 +126,8 @@ bool TCDescLogicalChannel::CustomisableServiceFlag(unsigned short /*serviceId*/,
 
 bool TCDescLogicalChannel::VisibleServiceFlag(unsigned short serviceId, unsigned short /*region*/) const
 {
-    const auto it = m_entries.find(serviceId);
-    return it == m_entries.end() || it->second.visibleFlag != 0;
+    _TTDescLCN entry{};
+    return !m_First(serviceId, entry) || entry.visibleFlag != 0;
 }
 
 bool TCDescLogicalChannel::NumericSelectionFlag(unsigned short /*serviceId*/, unsigned short /*region*/) const
@@ -144,23 +137,30 @@ bool TCDescLogicalChannel::NumericSelectionFlag(unsigned short /*serviceId*/, un
 
 const _TTDescLCN* TCDescLogicalChannel::First(unsigned short region)
 {
-    m_readPosition = m_entries.begin();
+    // The walk hands entries out by pointer: those of the raw copy are read
+    // into the list once, and stay there until DeleteAll.
+    const int raw = m_RawCount();
+    m_entries.Reserve(m_entries.Size() + static_cast<std::size_t>(raw));
+    for (int i = 0; i < raw; ++i)
+        m_entries.Add(m_RawEntry(i));
+    m_rawEntries = 0;
+    m_readPosition = 0;
     return Next(region);
 }
 
 const _TTDescLCN* TCDescLogicalChannel::Next(unsigned short /*region*/)
 {
-    if (m_readPosition == m_entries.end())
+    if (m_readPosition >= m_entries.Size())
         return nullptr;
-    const _TTDescLCN* entry = &m_readPosition->second;
-    ++m_readPosition;
-    return entry;
+    return m_entries.Begin() + m_readPosition++;
 }
 
 bool TCDescLogicalChannel::ServiceIDList(std::set<unsigned short>& serviceIds) const
 {
-    for (const auto& item : m_entries)
-        serviceIds.insert(item.first);
+    for (int i = 0; i < m_RawCount(); ++i)
+        serviceIds.insert(m_RawEntry(i).serviceId);
+    for (const _TTDescLCN* entry = m_entries.Begin(); entry != m_entries.End(); ++entry)
+        serviceIds.insert(entry->serviceId);
     return true;
 }
 

@@ -8,23 +8,7 @@
 #include <zum-platform/Codes.h>
 
 #include "../core/BaseDesc.h"
-
-class ILCNDescParseHelper;
-
-// One entry of any logical channel descriptor; a field that an operator does
-// not send keeps its neutral value.
-struct _TTDescLCN {
-    unsigned short serviceId;
-    unsigned char visibleFlag;
-    unsigned char numericSelectionFlag;
-    unsigned short channelNumber;
-    unsigned short regionId;
-    unsigned short freesatServiceId;
-    unsigned short dpIdFirst;
-    unsigned short dpIdSecond;
-    unsigned char customisableFlag;
-    unsigned short polsatServiceId;
-};
+#include "LCNEntry.h"
 
 // How the rest of the system reads the channel numbers of every operator.
 class ZUM_EXPORT IDescLogicalChannel {
@@ -76,24 +60,29 @@ public:
     bool ServiceIDList(std::set<unsigned short>& serviceIds) const override;
     bool GetDPIds(unsigned short serviceId, unsigned short& first, unsigned short& second) const override;
 
+    // The specifier the object was made under (inline: no operation of the library's boundary).
     unsigned int PrivateDataSpecifier() const { return m_privateDataSpecifier; }
-
-    // An entry with the neutral values of every field an operator may leave out.
-    static _TTDescLCN EmptyEntry(unsigned short serviceId);
-    // The entry layout that a specifier and a tag stand for; owned by the caller.
-    static ILCNDescParseHelper* NewParseHelper(unsigned int privateDataSpecifier, int tag);
 
 protected:
     int t_Parse(const unsigned char* payload, unsigned char length) override;
-    // Goes behind the entries of the same service id.
+    // For a subclass that decodes entries of its own: goes behind the
+    // entries of the same service id.
     void t_AddEntry(const _TTDescLCN& entry);
-    const EntryMap& t_Entries() const { return m_entries; }
 
     unsigned int m_privateDataSpecifier;
 
 private:
-    EntryMap m_entries;
-    EntryMap::const_iterator m_readPosition;
+    // The entries of the raw copy are read where they stand; the walk, which
+    // hands them out by pointer, first reads them into m_entries.
+    int m_RawCount() const;
+    _TTDescLCN m_RawEntry(int index) const;
+    // The first entry of the service, in the order of the descriptor.
+    bool m_First(unsigned short serviceId, _TTDescLCN& entry) const;
+
+    int m_rawEntries = 0;
+    TCLCNEntryList m_entries;
+    // The walk's next entry; past the end before First and after DeleteAll.
+    std::size_t m_readPosition = static_cast<std::size_t>(-1);
 };
 
 #endif

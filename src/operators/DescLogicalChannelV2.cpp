@@ -32,9 +32,12 @@ TCDescLogicalChannelV2::~TCDescLogicalChannelV2()
 
 void TCDescLogicalChannelV2::DeleteAll()
 {
-    m_lists.clear();
-    m_listNames.clear();
-    m_walkList = nullptr;
+    for (TTList& list : m_lists) {
+        list.held = false;
+        list.name.clear();
+        list.entries.Clear();
+    }
+    m_walking = false;
 }
 
 TCBaseDesc* TCDescLogicalChannelV2::Fork() const
@@ -59,23 +62,25 @@ int TCDescLogicalChannelV2::t_Parse(const unsigned char* payload, unsigned char 
         const int nameLength = static_cast<int>(reader.U8());
         if (!reader.Has(nameLength + kListTailSize))
             break;
-        m_listNames[listId].assign(reinterpret_cast<const char*>(reader.Here()), static_cast<size_t>(nameLength));
+        TTList& list = m_ListOf(listId);
+        list.held = true;
+        list.name.assign(reinterpret_cast<const char*>(reader.Here()), static_cast<size_t>(nameLength));
         reader.Skip(nameLength);
         const unsigned int c0 = CountryLetter(reader.U8());
         const unsigned int c1 = CountryLetter(reader.U8());
         const unsigned int c2 = CountryLetter(reader.U8());
-        m_listCountries[listId] = (c0 << 16) | (c1 << 8) | c2;
-        EntryMap& entries = m_lists[listId];
+        list.country = (c0 << 16) | (c1 << 8) | c2;
         m_UpdateSelection(listId, receiverCountry);
 
         const int loopLength = static_cast<int>(reader.U8());
         const int present = std::min(loopLength, reader.Left());
+        list.entries.Reserve(list.entries.Size() + static_cast<size_t>(present / kEntrySize));
         for (int offset = 0; offset + kEntrySize <= present; offset += kEntrySize) {
             const unsigned char* raw = reader.Here() + offset;
-            _TTDescLCN entry = TCDescLogicalChannel::EmptyEntry(layout.GetServiceId(raw));
+            _TTDescLCN entry = LCNEmptyEntry(layout.GetServiceId(raw));
             entry.channelNumber = layout.GetChannelNumber(raw);
             entry.visibleFlag = layout.GetVisibleFlag(raw) ? 1 : 0;
-            entries.emplace(entry.serviceId, entry);
+            list.entries.Add(entry);
         }
         if (loopLength > present) {
             // The body ends inside this loop: keep its whole entries and stop.
@@ -105,18 +110,41 @@ void TCDescLogicalChannelV2::m_UpdateSelection(unsigned int listId, ECountryCode
         m_selectedList = listId;
 }
 
-const TCDescLogicalChannelV2::EntryMap* TCDescLogicalChannelV2::m_SelectedEntries() const
+TCDescLogicalChannelV2::TTList& TCDescLogicalChannelV2::m_ListOf(unsigned int listId)
+{
+    for (TTList& list : m_lists)
+        if (list.id == listId)
+            return list;
+    m_lists.emplace_back();
+    m_lists.back().id = listId;
+    return m_lists.back();
+}
+
+const TCDescLogicalChannelV2::TTList* TCDescLogicalChannelV2::m_Find(unsigned int listId) const
+{
+    for (const TTList& list : m_lists)
+        if (list.id == listId)
+            return &list;
+    return nullptr;
+}
+
+const TCLCNEntryList* TCDescLogicalChannelV2::m_HeldEntries(unsigned int listId) const
+{
+    const TTList* list = m_Find(listId);
+    return list && list->held ? &list->entries : nullptr;
+}
+
+const TCLCNEntryList* TCDescLogicalChannelV2::m_SelectedEntries() const
 {
     if (m_selectedList == s_invalid_channel_id)
         return nullptr;
-    const auto it = m_lists.find(m_selectedList);
-    return it == m_lists.end() ? nullptr : &it->second;
+    return m_HeldEntries(m_selectedList);
 }
 
 ECountryCode TCDescLogicalChannelV2::m_CountryOf(unsigned int listId) const
 {
-    const auto it = m_listCountries.find(listId);
-    return it == m_listCountries.end() ? 0 : it->second;
+    const TTList* list = m_Find(listId);
+    return list ? list->country : 0;
 }
 
 bool TCDescLogicalChannelV2::GetAvailableRegions(std::list<unsigned short>& /*regions*/) const
@@ -126,8 +154,8 @@ bool TCDescLogicalChannelV2::GetAvailableRegions(std::list<unsigned short>& /*re
 
 unsigned int TCDescLogicalChannelV2::NumOfServices(unsigned short /*region*/) const
 {
-    const EntryMap* entries = m_SelectedEntries();
-    return entries ? static_cast<unsigned int>(entries->size()) : 0;
+    const TCLCNEntryList* entries = m_SelectedEntries();
+    return entries ? static_cast<unsigned int>(entries->Size()) : 0;
 }
 
 bool TCDescLogicalChannelV2::CheckServiceId(unsigned short serviceId, ECountryCode country) const
@@ -136,28 +164,28 @@ bool TCDescLogicalChannelV2::CheckServiceId(unsigned short serviceId, ECountryCo
         return false;
     if (country != kAnyCountry && country != m_CountryOf(m_selectedList))
         return false;
-    const EntryMap* entries = m_SelectedEntries();
-    return entries && entries->find(serviceId) != entries->end();
+    const TCLCNEntryList* entries = m_SelectedEntries();
+    return entries && entries->FirstOf(serviceId) != nullptr;
 }
 
 unsigned int TCDescLogicalChannelV2::LogicalChannelNumber(unsigned short serviceId) const
 {
-    const EntryMap* entries = m_SelectedEntries();
+    const TCLCNEntryList* entries = m_SelectedEntries();
     if (!entries)
         return s_invalid_lcn;
-    const auto it = entries->find(serviceId);
-    return it == entries->end() ? s_invalid_lcn : it->second.channelNumber;
+    const _TTDescLCN* entry = entries->FirstOf(serviceId);
+    return entry ? entry->channelNumber : s_invalid_lcn;
 }
 
 void TCDescLogicalChannelV2::GetLogicalChannelNumberList(unsigned short serviceId,
                                                          std::list<unsigned short>& numbers) const
 {
-    const EntryMap* entries = m_SelectedEntries();
+    const TCLCNEntryList* entries = m_SelectedEntries();
     if (!entries)
         return;
-    const auto range = entries->equal_range(serviceId);
-    for (auto it = range.first; it != range.second; ++it)
-        numbers.push_back(it->second.channelNumber);
+    const TCLCNEntryList::Range range = entries->EntriesOf(serviceId);
+    for (const _TTDescLCN* entry = range.first; entry != range.second; ++entry)
+        numbers.push_back(entry->channelNumber);
 }
 
 bool TCDescLogicalChannelV2::FreesatServiceId(unsigned short /*serviceId*/, unsigned short& /*freesatId*/) const
@@ -178,11 +206,11 @@ bool TCDescLogicalChannelV2::CustomisableServiceFlag(unsigned short /*serviceId*
 
 bool TCDescLogicalChannelV2::VisibleServiceFlag(unsigned short serviceId, unsigned short /*region*/) const
 {
-    const EntryMap* entries = m_SelectedEntries();
+    const TCLCNEntryList* entries = m_SelectedEntries();
     if (!entries)
         return s_default_visible_flag != 0;
-    const auto it = entries->find(serviceId);
-    return it == entries->end() ? s_default_visible_flag != 0 : it->second.visibleFlag != 0;
+    const _TTDescLCN* entry = entries->FirstOf(serviceId);
+    return entry ? entry->visibleFlag != 0 : s_default_visible_flag != 0;
 }
 
 bool TCDescLogicalChannelV2::NumericSelectionFlag(unsigned short /*serviceId*/, unsigned short /*region*/) const
@@ -192,27 +220,27 @@ bool TCDescLogicalChannelV2::NumericSelectionFlag(unsigned short /*serviceId*/, 
 
 const _TTDescLCN* TCDescLogicalChannelV2::First(unsigned short region)
 {
-    m_walkList = m_SelectedEntries();
-    if (!m_walkList)
+    m_walking = m_SelectedEntries() != nullptr;
+    if (!m_walking)
         return nullptr;
-    m_readPosition = m_walkList->begin();
+    m_walkList = m_selectedList;
+    m_readPosition = 0;
     return Next(region);
 }
 
 const _TTDescLCN* TCDescLogicalChannelV2::Next(unsigned short /*region*/)
 {
-    if (m_selectedList == s_invalid_channel_id || !m_walkList || m_readPosition == m_walkList->end())
+    const TCLCNEntryList* entries = m_walking ? m_HeldEntries(m_walkList) : nullptr;
+    if (m_selectedList == s_invalid_channel_id || !entries || m_readPosition >= entries->Size())
         return nullptr;
-    const _TTDescLCN* entry = &m_readPosition->second;
-    ++m_readPosition;
-    return entry;
+    return entries->Begin() + m_readPosition++;
 }
 
 bool TCDescLogicalChannelV2::ServiceIDList(std::set<unsigned short>& serviceIds) const
 {
-    if (const EntryMap* entries = m_SelectedEntries()) {
-        for (const auto& item : *entries)
-            serviceIds.insert(item.first);
+    if (const TCLCNEntryList* entries = m_SelectedEntries()) {
+        for (const _TTDescLCN* entry = entries->Begin(); entry != entries->End(); ++entry)
+            serviceIds.insert(entry->serviceId);
     }
     return true;
 }
@@ -225,12 +253,15 @@ bool TCDescLogicalChannelV2::GetDPIds(unsigned short /*serviceId*/, unsigned sho
 
 void TCDescLogicalChannelV2::GetChannelLists(std::map<unsigned int, std::string>& lists) const
 {
-    lists = m_listNames;
+    lists.clear();
+    for (const TTList& list : m_lists)
+        if (list.held)
+            lists.emplace(list.id, list.name);
 }
 
 bool TCDescLogicalChannelV2::SelectChannelList(unsigned int listId)
 {
-    if (m_lists.find(listId) == m_lists.end())
+    if (!m_HeldEntries(listId))
         return false;
     m_selectedList = listId;
     return true;
@@ -252,7 +283,6 @@ void TCDescLogicalChannelV2::GetLogicalChannelMapForChList(unsigned int listId, 
 {
     if (listId == s_invalid_channel_id)
         return;
-    const auto it = m_lists.find(listId);
-    if (it != m_lists.end())
-        entries = it->second;
+    if (const TCLCNEntryList* held = m_HeldEntries(listId))
+        held->CopyTo(entries);
 }

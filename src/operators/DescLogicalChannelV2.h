@@ -1,8 +1,10 @@
 #ifndef ZUM_OPERATORS_DESCLOGICALCHANNELV2_H
 #define ZUM_OPERATORS_DESCLOGICALCHANNELV2_H
 
+#include <cstddef>
 #include <map>
 #include <string>
+#include <vector>
 
 #include <zum-platform/ZUMHandle.h>
 
@@ -61,16 +63,30 @@ protected:
     int t_Parse(const unsigned char* payload, unsigned char length) override;
 
 private:
-    const EntryMap* m_SelectedEntries() const;
+    // A list as the descriptor sent it. Its country outlives DeleteAll; its
+    // name and entries are held from the parse that read it to DeleteAll.
+    struct TTList {
+        unsigned int id = 0;
+        ECountryCode country = 0;
+        bool held = false;
+        std::string name;
+        TCLCNEntryList entries;
+    };
+
+    TTList& m_ListOf(unsigned int listId);
+    const TTList* m_Find(unsigned int listId) const;
+    // The list of that id while it is held; null otherwise.
+    const TCLCNEntryList* m_HeldEntries(unsigned int listId) const;
+    const TCLCNEntryList* m_SelectedEntries() const;
     ECountryCode m_CountryOf(unsigned int listId) const;
     void m_UpdateSelection(unsigned int listId, ECountryCode receiverCountry);
 
-    std::map<unsigned int, EntryMap> m_lists;
-    std::map<unsigned int, std::string> m_listNames;
-    std::map<unsigned int, ECountryCode> m_listCountries;
+    // In the order the lists first came; a handful per descriptor.
+    std::vector<TTList> m_lists;
     // The walk keeps the list it started on, even if another is selected meanwhile.
-    const EntryMap* m_walkList = nullptr;
-    EntryMap::const_iterator m_readPosition;
+    bool m_walking = false;
+    unsigned int m_walkList = 0;
+    std::size_t m_readPosition = 0;
     unsigned int m_selectedList = s_invalid_channel_id;
     ZUMHandle m_handle;
 };

@@ -8,7 +8,9 @@
 #include "dvb/DescContent.h"
 #include "dvb/DescLanguage.h"
 #include "dvb/DescLoopProbe.h"
+#include "dvb/DescMultilingualNetworkName.h"
 #include "dvb/DescShortEvent.h"
+#include "operators/DescLogicalChannel.h"
 
 using namespace svctest;
 
@@ -265,4 +267,41 @@ TEST(DescLanguage, EntriesTeletextPagesAndSubtitles)
          "inLen=11, outLen=8"},
         {{'e', 'n', 'g', 0x10}, "0, - 0 0 0, - 0 0 0", "inLen=4, outLen=0"},
     });
+}
+
+// Texts, items and entries read from the object's own raw copy: a loop's objects outlive the caller's buffer (their
+// bytes live in the container), and a clone outlives its source.
+TEST(DescriptorViews, OutliveTheLoopBufferAndTheirSource)
+{
+    const Bytes loop = zumtest::Concat({Desc(0x4D, {'e', 'n', 'g', 4, 'N', 'e', 'w', 's', 1, 'T'}),
+                                        Desc(0x4E, ExtendedBody(0x12, kItems, "Long text")),
+                                        Desc(0x5D, {'e', 'n', 'g', 1, 'P', 2, 'S', 'v'}), Desc(0x5F, {0, 0, 0, 0x28}),
+                                        Desc(0x83, {0x00, 0x07, 0x80, 0x05})});
+    auto fields = [](const TCDescriptorHash& hash) {
+        std::string s;
+        if (auto* d = dynamic_cast<const TCDescShortEvent*>(hash.Descriptor(0x4D, 0)))
+            s += ShortEvent(*d);
+        if (auto* d = dynamic_cast<const TCDescExtendedEvent*>(hash.Descriptor(0x4E, 0)))
+            s += " | " + ExtendedEvent(*d);
+        if (auto* d = dynamic_cast<const TCDescMultilingualServiceName*>(hash.Descriptor(0x5D, 0)))
+            s += " | " + TextOf(*d->ServiceNameDesc(0), &CmultiServiceNameDesc::ServiceNameChar);
+        if (auto* d = dynamic_cast<IDescLogicalChannel*>(hash.Descriptor(0x83, 0)))
+            s += " | " + Join(d->LogicalChannelNumber(7), d->First(0)->channelNumber);
+        return s;
+    };
+    const struct { unsigned char tableId; const char* expected; } cases[] = {
+        {0x4E, "eng News T 1 | 1 2 eng 16 2 Dir/Ann Cast/Bo Long text"}, {0x42, " | Sv"}, {0x40, " | 5 5"}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(int(c.tableId));
+        Bytes buffer = loop;
+        TCDescriptorHash hash, copies;
+        Walk("GBR", c.tableId, buffer, hash);
+        const std::string before = fields(hash);
+        EXPECT_NE(before.find(c.expected), std::string::npos) << before;
+        std::fill(buffer.begin(), buffer.end(), 0xEE);
+        EXPECT_EQ(fields(hash), before);
+        copies = hash;
+        hash.DeleteAll();
+        EXPECT_EQ(fields(copies), before);
+    }
 }

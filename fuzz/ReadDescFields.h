@@ -1,0 +1,148 @@
+#ifndef ZUM_FUZZ_READDESCFIELDS_H
+#define ZUM_FUZZ_READDESCFIELDS_H
+
+// Reads every accessor of the descriptor classes whose fields are read from
+// the raw copy on access, one index past each end, so that the sanitizers
+// see what an accessor touches.
+
+#include <list>
+#include <map>
+#include <set>
+#include <vector>
+
+#include "dvb/DescComponent.h"
+#include "dvb/DescContent.h"
+#include "dvb/DescCountryAvailability.h"
+#include "dvb/DescLanguage.h"
+#include "dvb/DescLocalTimeOffset.h"
+#include "dvb/DescMultilingualNetworkName.h"
+#include "dvb/DescNetworkName.h"
+#include "dvb/DescSatelliteDeliverySystem.h"
+#include "dvb/DescService.h"
+#include "dvb/DescShortEvent.h"
+#include "operators/DescLogicalChannelV2.h"
+
+namespace fuzzfields {
+
+inline volatile unsigned int g_sink;
+
+inline void Take(unsigned int v) { g_sink = g_sink + v; }
+
+template <class Char, class Size, class Obj, class Copy>
+void Text(const Obj& d, Copy copy)
+{
+    Char buffer[256];
+    for (Size size : {Size(0), Size(3), Size(sizeof buffer)}) {
+        Size inOut = size;
+        Take((d.*copy)(buffer, &inOut));
+    }
+}
+
+inline void ReadLcn(IDescLogicalChannel& d)
+{
+    std::list<unsigned short> numbers;
+    std::set<unsigned short> ids;
+    for (unsigned short id : {0, 1, 7, 0xFFFF}) {
+        Take(d.CheckServiceId(id, 0xFFFF00) + d.LogicalChannelNumber(id) + d.VisibleServiceFlag(id, 0));
+        d.GetLogicalChannelNumberList(id, numbers);
+    }
+    d.ServiceIDList(ids);
+    Take(d.NumOfServices(0));
+    for (const _TTDescLCN* e = d.First(0); e; e = d.Next(0))
+        Take(e->serviceId + e->channelNumber);
+}
+
+inline void Read(TCBaseDesc* desc)
+{
+    if (auto* d = dynamic_cast<TCDescNetworkName*>(desc))
+        Text<unsigned char, unsigned short>(*d, &TCDescNetworkName::NetworkNameText);
+    if (auto* d = dynamic_cast<TCDescBouquetName*>(desc))
+        Text<unsigned char, unsigned short>(*d, &TCDescBouquetName::BouquetNameText);
+    if (auto* d = dynamic_cast<TCDescService*>(desc)) {
+        unsigned char buffer[256];
+        unsigned short size = sizeof buffer;
+        Take(d->ServiceNameText(buffer, size) + d->ServiceProviderNameText(buffer, size));
+    }
+    if (auto* d = dynamic_cast<TCDescServiceList*>(desc))
+        for (int i = -1; i <= d->NumberOfLoop(); ++i)
+            Take(d->ServiceId(i) + d->ServiceType(i));
+    if (auto* d = dynamic_cast<TCDescShortEvent*>(desc)) {
+        Text<unsigned char, unsigned short>(*d, &TCDescShortEvent::EventNameChar);
+        Text<unsigned char, unsigned short>(*d, &TCDescShortEvent::TextChar);
+    }
+    if (auto* d = dynamic_cast<TCDescExtendedEvent*>(desc)) {
+        Text<unsigned char, unsigned short>(*d, &TCDescExtendedEvent::TextChar);
+        for (unsigned int i = 0; i <= d->SizeOfItem(); ++i)
+            if (const CitemDesc* item = d->Item(i)) {
+                Text<char, int>(*item, &CitemDesc::ItemDescriptionChar);
+                Text<char, int>(*item, &CitemDesc::ItemChar);
+            }
+    }
+    if (auto* d = dynamic_cast<TCDescComponent*>(desc))
+        Text<char, int>(*d, &TCDescComponent::TextChar);
+    if (auto* d = dynamic_cast<TCDescMultilingualNetworkName*>(desc)) {
+        for (int i = -1; i <= d->NumOfNetworkName(); ++i)
+            if (const CmultiNetworkNameDesc* n = d->NetworkNameDesc(i))
+                Text<unsigned char, unsigned short>(*n, &CmultiNetworkNameDesc::NetworkNameChar);
+        unsigned char name[256];
+        unsigned short size = 0;
+        Take(d->GetNetworkNameByLanguage(0x656E67, name, &size));
+    }
+    if (auto* d = dynamic_cast<TCDescMultilingualServiceName*>(desc)) {
+        unsigned char name[256];
+        unsigned short size = 0;
+        unsigned int language = 0;
+        for (int i = 0; i <= d->NumOfServiceName(); ++i)
+            Take(d->GetServiceNameByIndex(static_cast<unsigned int>(i), &language, name, &size));
+        Take(d->GetServiceNameByLanguage(0x656E67, name, &size) +
+             d->GetServiceProviderNameByLanguage(0x656E67, name, &size));
+    }
+    if (auto* d = dynamic_cast<TCDescMultilingualComponent*>(desc))
+        for (int i = -1; i <= d->NumOfComponentText(); ++i)
+            if (const CmultiComponentDesc* c = d->ComponentDesc(i))
+                Text<char, int>(*c, &CmultiComponentDesc::TextDescChar);
+    if (auto* d = dynamic_cast<TCDescContent*>(desc))
+        for (int i = -1; i <= d->Count(); ++i)
+            Take(d->ContentNibbleLevel1(i) + d->ContentNibbleLevel2(i) + d->UserNibble1(i) + d->UserNibble2(i));
+    if (auto* d = dynamic_cast<TCDescParentalRating*>(desc))
+        for (int i = -1; i <= d->Count(); ++i)
+            Take(d->CountryCode(i) + d->Rating(i));
+    if (auto* d = dynamic_cast<TCDescCountryAvailability*>(desc)) {
+        std::list<ECountryCode> codes;
+        Take(d->Countries(codes) + d->IsServiceAvailable(0x474252));
+    }
+    if (auto* d = dynamic_cast<TCDescLanguage*>(desc)) {
+        ELanguageCode language = 0;
+        EAudioType type = AUDIO_TYPE_UNDEFINED;
+        for (int i = 0; i < d->Count(); ++i)
+            Take(d->Language(i, &language, &type) + language);
+    }
+    if (auto* d = dynamic_cast<TCDescTeletext*>(desc))
+        for (int i = -1; i <= d->Count(); ++i)
+            Take(d->Iso639LangCode(i) + d->TeletextType(i) + d->TeletextMagzineNumber(i) + d->TeletextPageNumber(i));
+    if (auto* d = dynamic_cast<TCDescSubtitling*>(desc))
+        for (int i = -1; i <= d->Count(); ++i)
+            Take(d->Iso639LangCode(i) + d->SubtitlingType(i) + d->CompositionPageId(i) + d->AncillaryPageId(i));
+    if (auto* d = dynamic_cast<TCDescLocalTimeOffset*>(desc))
+        for (int i = -1; i <= d->NumOfEntries(); ++i)
+            Take(d->CountryCode(i) + d->TimeOfChange(i) + static_cast<unsigned int>(d->NextTimeOffset(i)));
+    if (auto* d = dynamic_cast<TCDescFrequencyList*>(desc))
+        for (int i = -1; i <= d->NumOfEntries(); ++i)
+            Take(d->CentreFrequency(i) != 0.0f);
+    if (auto* d = dynamic_cast<IDescLogicalChannel*>(desc))
+        ReadLcn(*d);
+    if (auto* d = dynamic_cast<TCDescLogicalChannelV2*>(desc)) {
+        std::map<unsigned int, std::string> lists;
+        d->GetChannelLists(lists);
+        for (const auto& list : lists) {
+            TCDescLogicalChannelV2::EntryMap entries;
+            d->GetLogicalChannelMapForChList(list.first, entries);
+            Take(d->SelectChannelList(list.first));
+            ReadLcn(*d);
+        }
+    }
+}
+
+} // namespace fuzzfields
+
+#endif
