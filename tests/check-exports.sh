@@ -12,7 +12,7 @@ if [ "$soname" != "libzum-parser.so.$major" ]; then
 fi
 
 # Rule: an exported symbol belongs to a TC/TT/TS/I class (members, vtable, typeinfo) or is named below; weak std:: and compiler-made instances are tolerated.
-named='^(_TCParserAssert|PrintSignalMessage|PrintXmlFormat|CEXTEventLinkageInfo|CSSULinkLoop|CSSUInfoLoop)$'
+named='^(_TCParserAssert|PrintSignalMessage|PrintXmlFormat|CEXTEventLinkageInfo|CSSULinkLoop|CSSUInfoLoop|M7HomeTPLinkageData)$'
 
 # Sets scope to the outermost scope of a mangled name: its class, namespace or free function.
 owner() {

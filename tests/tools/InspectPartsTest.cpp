@@ -59,7 +59,7 @@ TEST(InspectDescribers, FieldsForKnownClassesRawForTheRest)
         // The one specifier that the loop keeps as an object of its own.
         {zumtest::Desc(0x5F, {0, 0, 0x22, 0xC6}), "0x5F", "TCDescPrivateDataSpecifier", "/privateDataSpecifier",
          "0x000022C6"},
-        {zumtest::Desc(0x4A, {0x01}), "0x4A", "TCDescDefault", nullptr, "4a 01 01"},
+        {zumtest::Desc(0x4B, {0x01}), "0x4B", "TCDescDefault", nullptr, "4b 01 01"},
         {zumtest::Desc(0x7F, {0x04, 0x00, 0x12, 0x34}), "0x7F04", "TCDescT2SystemDelivery", "/t2SystemId", 0x1234},
         {zumtest::Desc(0x7F, {0x20, 0xAA}), "0x7F20", "TCDescExtension", nullptr, "7f 02 20 aa"},
     };
