@@ -19,6 +19,7 @@
 #include "dvb/DescContent.h"
 #include "dvb/DescCountryAvailability.h"
 #include "dvb/DescLanguage.h"
+#include "dvb/DescLinkage.h"
 #include "dvb/DescLocalTimeOffset.h"
 #include "dvb/DescMultilingualNetworkName.h"
 #include "dvb/DescNetworkName.h"
@@ -29,7 +30,9 @@
 #include "dvb/DescShortEvent.h"
 #include "dvb/DescT2SystemDelivery.h"
 #include "operators/DescLogicalChannel.h"
+#include "inspect/LinkageView.h"
 #include "operators/DescLogicalChannelV2.h"
+#include "psi/DescCA.h"
 
 namespace zuminspect {
 
@@ -430,6 +433,11 @@ DescriberTable MakeTable()
     Register<TCDescCAIdentifier>(t, CAIdentifier);
     Register<TCDescLogicalChannel>(t, LogicalChannel);
     Register<TCDescLogicalChannelV2>(t, LogicalChannelV2);
+    Register<TCDescLinkage>(t, LinkageFields);
+    Register<TCDescDataBroadcast>(t, DataBroadcastFields);
+    Register<TCDescDataBroadcastId>(t, DataBroadcastIdFields);
+    Register<TCDescSSULocation>(t, SSULocationFields);
+    Register<TCDescCA>(t, CAFields);
     return t;
 }
 

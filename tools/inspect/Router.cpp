@@ -2,6 +2,7 @@
 
 #include <list>
 
+#include "dvb/DVBBATParser.h"
 #include "dvb/DVBEITParser.h"
 #include "dvb/DVBLCNParser.h"
 #include "dvb/DVBNITParser.h"
@@ -9,6 +10,7 @@
 #include "dvb/DVBTDTParser.h"
 #include "dvb/DVBTOTParser.h"
 #include "inspect/TsDemux.h"
+#include "psi/DVBCATParser.h"
 #include "psi/PATParser.h"
 #include "psi/PMTParser.h"
 
@@ -55,7 +57,7 @@ Router::~Router() = default;
 
 bool Router::Wants(uint16_t pid) const
 {
-    return m_allPids || pid == kPidPat || pid == kPidNit || pid == kPidSdt || pid == kPidEit || pid == kPidTime ||
+    return m_allPids || pid == kPidPat || pid == kPidCat || pid == kPidNit || pid == kPidSdt || pid == kPidEit || pid == kPidTime ||
            pid == kNoPid || m_pmtPids.count(pid) > 0 || pid == m_networkPid;
 }
 
@@ -72,6 +74,10 @@ Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
         return Kind::Nit;
     if ((tableId == 0x42 || tableId == 0x46) && (any || pid == kPidSdt))
         return Kind::Sdt;
+    if (tableId == 0x4A && (any || pid == kPidSdt))
+        return Kind::Bat;
+    if (tableId == 0x01 && (any || pid == kPidCat))
+        return Kind::Cat;
     // 0x85 is a compressed EIT on the EIT PID and the channel number table anywhere else.
     if (IsEit(tableId) && (pid == kPidEit || (any && tableId != kTidLcn)))
         return Kind::Eit;
@@ -95,6 +101,8 @@ TCSectionParser* Router::m_Parser(Kind kind, uint8_t tableId)
     case Kind::Tdt: return Lazy(m_tdt, m_handle);
     case Kind::Tot: return Lazy(m_tot, m_handle);
     case Kind::Lcn: return Lazy(m_lcn, m_handle);
+    case Kind::Bat: return Lazy(m_bat, m_handle);
+    case Kind::Cat: return Lazy(m_cat, m_handle);
     case Kind::None: break;
     }
     return nullptr;
@@ -151,6 +159,8 @@ std::string Router::ParserName(uint16_t pid, uint8_t tableId) const
     case Kind::Tdt: return "TCDVBTDTParser";
     case Kind::Tot: return "TCDVBTOTParser";
     case Kind::Lcn: return "TCDVBLCNParser";
+    case Kind::Bat: return "TCDVBBATParser";
+    case Kind::Cat: return "TCDVBCATParser";
     case Kind::None: break;
     }
     return std::string();
@@ -193,6 +203,13 @@ std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
     case Kind::Tdt:
     case Kind::Tot: return m_timeTablesTaken.count(tableId) > 0;
     case Kind::Lcn: return m_lcn && m_lcn->IsRecv();
+    case Kind::Bat: {
+        std::list<unsigned short> ids;
+        if (m_bat)
+            m_bat->BouquetIds(ids);
+        return AllValid(ids, [&](unsigned short id) { return m_bat->GetInstance(id)->IsValid(); });
+    }
+    case Kind::Cat: return m_cat && m_cat->IsValid();
     case Kind::None: break;
     }
     return std::nullopt;
