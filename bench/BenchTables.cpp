@@ -124,14 +124,16 @@ Bytes TransportStream(unsigned index)
     return w.Data();
 }
 
-std::vector<Bytes> Nit(unsigned version)
+// A NIT or BAT: its own loop `head` in each of two sections, then half of the
+// 20 transport streams in each.
+std::vector<Bytes> MuxLoopTable(unsigned tableId, unsigned extension, unsigned version, const Bytes& head)
 {
     constexpr unsigned kSections = 2;
     constexpr unsigned kPerSection = kNitTransportStreams / kSections;
     std::vector<Bytes> sections;
     for (unsigned section = 0; section < kSections; ++section) {
-        SectionBuilder s(zumtest::LongHeader(0x40, kNetworkId, version, section, kSections - 1, true));
-        s.Begin16().Descriptor(0x40, Text("ZUM Benchmark Network")).End();
+        SectionBuilder s(zumtest::LongHeader(tableId, extension, version, section, kSections - 1, true));
+        s.Begin16().Raw(head).End();
         s.Begin16();
         for (unsigned i = 0; i < kPerSection; ++i)
             s.Raw(TransportStream(section * kPerSection + i));
@@ -141,25 +143,19 @@ std::vector<Bytes> Nit(unsigned version)
     return sections;
 }
 
-// ---- BAT: the same 20 transport streams in one bouquet, over two sections ----
+std::vector<Bytes> Nit(unsigned version)
+{
+    return MuxLoopTable(0x40, kNetworkId, version, zumtest::Desc(0x40, Text("ZUM Benchmark Network")));
+}
+
+// ---- BAT: the same 20 transport streams in one bouquet ------------------------
 
 std::vector<Bytes> Bat(unsigned version)
 {
-    constexpr unsigned kSections = 2;
-    constexpr unsigned kPerSection = kNitTransportStreams / kSections;
-    std::vector<Bytes> sections;
-    for (unsigned section = 0; section < kSections; ++section) {
-        SectionBuilder s(zumtest::LongHeader(0x4A, kBouquetId, version, section, kSections - 1, true));
-        // Bouquet name, and a linkage to the transport stream with the bouquet's complete SI.
-        s.Begin16().Descriptor(0x47, Text("ZUM Benchmark Bouquet"));
-        s.Descriptor(0x4A, Concat({U16(kTransportStreamId), U16(kOriginalNetworkId), U16(0x0000), {0x04}})).End();
-        s.Begin16();
-        for (unsigned i = 0; i < kPerSection; ++i)
-            s.Raw(TransportStream(section * kPerSection + i));
-        s.End();
-        sections.push_back(s.Build());
-    }
-    return sections;
+    // Bouquet name, and a linkage to the transport stream with the bouquet's complete SI.
+    const Bytes linkage = Concat({U16(kTransportStreamId), U16(kOriginalNetworkId), U16(0x0000), {0x04}});
+    return MuxLoopTable(0x4A, kBouquetId, version,
+                        Concat({zumtest::Desc(0x47, Text("ZUM Benchmark Bouquet")), zumtest::Desc(0x4A, linkage)}));
 }
 
 // ---- SDT: 40 services over two sections ---------------------------------------
