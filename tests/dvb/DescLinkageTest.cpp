@@ -299,3 +299,20 @@ TEST(DescLinkage, FactoryRows)
         EXPECT_EQ(typeid(*d), c.type) << c.tag;
     }
 }
+
+TEST(DescLinkage, UpdateLoopDebugLines)
+{
+    struct Case { Bytes rest; std::vector<std::string> lines; } cases[] = {
+        {{6, 0x00, 0x01, 0x5A, 1, 0xAA, 0x00},
+         {"Linkage Type = 0x9", "[TCDescLinkage::t_Parse] endIndex=m_OUIDataLength=6, len=14",
+          "[CSSULinkLoop::Parse] m_OUI=346, m_selectorLength=1", "[CSSULinkLoop::Parse] size=5"}},
+        {{5, 0x00, 0x00, 0x01, 3, 0xAA},
+         {"Linkage Type = 0x9", "[TCDescLinkage::t_Parse] endIndex=m_OUIDataLength=5, len=13",
+          "[exception handling] m_selectorLength = 3. len = 5"}},
+    };
+    for (const Case& c : cases) {
+        zumtest::LogCapture log;
+        Decoded<TCDescLinkage>(Linkage(0x09, c.rest));
+        EXPECT_EQ(log.Lines(3), c.lines);
+    }
+}
