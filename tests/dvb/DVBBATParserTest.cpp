@@ -105,19 +105,22 @@ TEST(DVBBATParser, BouquetsTrackedApart)
 TEST(DVBBATParser, RealCaptures)
 {
     const Bytes cplus = ReadCapture("tsduck_tsduck__psi_bat_cplus_sections.0.BAT.bin");
+    const Bytes tvnum = ReadCapture("tsduck_tsduck__psi_bat_tvnum_sections.0.BAT.bin");
     const Bytes sky = ReadCapture("tsduck_tsduck-test__ref_test-002.tstables.bin");
-    if (cplus.empty() || sky.empty())
+    if (cplus.empty() || tvnum.empty() || sky.empty())
         GTEST_SKIP() << "captures not present";
     zumtest::BinderScope binder;
     binder->countryCode = ZumPackCode("FRA");
-    TCDVBBATParser bat(kZUMDefaultHandle);
-    EXPECT_TRUE(bat.Parse(0x11, cplus.data()));
-    const TCDVBBATInstance* canal = bat.GetInstance(0xC003);
-    ASSERT_NE(canal, nullptr);
-    EXPECT_NE(dynamic_cast<const TCDescBouquetName*>(canal->Descriptor(0x47, 0)), nullptr);
-    ASSERT_GT(canal->NumOfDVBItemMux(), 0);
-    for (int i = 0; i < canal->NumOfDVBItemMux(); ++i)
-        EXPECT_GT(canal->DVBItemMuxOfIndex(static_cast<unsigned>(i))->NumOfDescriptors(), 0) << i;
+    for (const auto& capture : {std::make_pair(&cplus, 0xC003), std::make_pair(&tvnum, 0x0086)}) {
+        TCDVBBATParser bat(kZUMDefaultHandle);
+        EXPECT_TRUE(bat.Parse(0x11, capture.first->data()));
+        const TCDVBBATInstance* bouquet = bat.GetInstance(static_cast<unsigned short>(capture.second));
+        ASSERT_NE(bouquet, nullptr) << capture.second;
+        EXPECT_NE(dynamic_cast<const TCDescBouquetName*>(bouquet->Descriptor(0x47, 0)), nullptr);
+        ASSERT_GT(bouquet->NumOfDVBItemMux(), 0);
+        for (int i = 0; i < bouquet->NumOfDVBItemMux(); ++i)
+            EXPECT_GT(bouquet->DVBItemMuxOfIndex(static_cast<unsigned>(i))->NumOfDescriptors(), 0) << i;
+    }
 
     binder->countryCode = ZumPackCode("ITA");
     TCDVBBATParser italy(kZUMDefaultHandle);
