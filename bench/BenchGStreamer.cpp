@@ -66,6 +66,20 @@ bool ParseDescriptor(const GstMpegtsDescriptor* d)
         g_free(name);
         return true;
     }
+    case 0x47: {
+        gchar* name = nullptr;
+        if (!gst_mpegts_descriptor_parse_dvb_bouquet_name(d, &name))
+            return false;
+        g_free(name);
+        return true;
+    }
+    case 0x4A: {
+        GstMpegtsDVBLinkageDescriptor* res = nullptr;
+        if (!gst_mpegts_descriptor_parse_dvb_linkage(d, &res))
+            return false;
+        gst_mpegts_dvb_linkage_descriptor_free(res);
+        return true;
+    }
     case 0x41: {
         GPtrArray* list = nullptr;
         if (!gst_mpegts_descriptor_parse_dvb_service_list(d, &list))
@@ -182,6 +196,14 @@ int Pass(Family family, const Table& table, uint64_t n)
                 for (guint i = 0; i < nit->streams->len; ++i)
                     count += ParseDescriptors(
                         static_cast<const GstMpegtsNITStream*>(g_ptr_array_index(nit->streams, i))->descriptors);
+            }
+            break;
+        case Family::Bat:
+            if (const GstMpegtsBAT* bat = gst_mpegts_section_get_bat(section)) {
+                count += ParseDescriptors(bat->descriptors);
+                for (guint i = 0; i < bat->streams->len; ++i)
+                    count += ParseDescriptors(
+                        static_cast<const GstMpegtsBATStream*>(g_ptr_array_index(bat->streams, i))->descriptors);
             }
             break;
         case Family::Sdt:

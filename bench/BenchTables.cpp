@@ -124,14 +124,16 @@ Bytes TransportStream(unsigned index)
     return w.Data();
 }
 
-std::vector<Bytes> Nit(unsigned version)
+// A NIT or BAT: its own loop `head` in each of two sections, then half of the
+// 20 transport streams in each.
+std::vector<Bytes> MuxLoopTable(unsigned tableId, unsigned extension, unsigned version, const Bytes& head)
 {
     constexpr unsigned kSections = 2;
     constexpr unsigned kPerSection = kNitTransportStreams / kSections;
     std::vector<Bytes> sections;
     for (unsigned section = 0; section < kSections; ++section) {
-        SectionBuilder s(zumtest::LongHeader(0x40, kNetworkId, version, section, kSections - 1, true));
-        s.Begin16().Descriptor(0x40, Text("ZUM Benchmark Network")).End();
+        SectionBuilder s(zumtest::LongHeader(tableId, extension, version, section, kSections - 1, true));
+        s.Begin16().Raw(head).End();
         s.Begin16();
         for (unsigned i = 0; i < kPerSection; ++i)
             s.Raw(TransportStream(section * kPerSection + i));
@@ -139,6 +141,21 @@ std::vector<Bytes> Nit(unsigned version)
         sections.push_back(s.Build());
     }
     return sections;
+}
+
+std::vector<Bytes> Nit(unsigned version)
+{
+    return MuxLoopTable(0x40, kNetworkId, version, zumtest::Desc(0x40, Text("ZUM Benchmark Network")));
+}
+
+// ---- BAT: the same 20 transport streams in one bouquet ------------------------
+
+std::vector<Bytes> Bat(unsigned version)
+{
+    // Bouquet name, and a linkage to the transport stream with the bouquet's complete SI.
+    const Bytes linkage = Concat({U16(kTransportStreamId), U16(kOriginalNetworkId), U16(0x0000), {0x04}});
+    return MuxLoopTable(0x4A, kBouquetId, version,
+                        Concat({zumtest::Desc(0x47, Text("ZUM Benchmark Bouquet")), zumtest::Desc(0x4A, linkage)}));
 }
 
 // ---- SDT: 40 services over two sections ---------------------------------------
@@ -277,6 +294,7 @@ Table Make(Family family)
         case Family::Pat: t.pid = kPidPat; t.tableId = 0x00; t.versions[v] = {Pat(version)}; break;
         case Family::Pmt: t.pid = kPidPmt; t.tableId = 0x02; t.versions[v] = {Pmt(version)}; break;
         case Family::Nit: t.pid = kPidNit; t.tableId = 0x40; t.versions[v] = Nit(version); break;
+        case Family::Bat: t.pid = kPidSdt; t.tableId = 0x4A; t.versions[v] = Bat(version); break;
         case Family::Sdt: t.pid = kPidSdt; t.tableId = 0x42; t.versions[v] = Sdt(version); break;
         case Family::EitPf: t.pid = kPidEit; t.tableId = 0x4E; t.versions[v] = EitPresentFollowing(version); break;
         case Family::EitSchedule: t.pid = kPidEit; t.tableId = 0x50; t.versions[v] = EitSchedule(version, false); break;
@@ -304,7 +322,7 @@ size_t Table::TotalBytes() const
 const std::vector<Family>& AllFamilies()
 {
     static const std::vector<Family> all = {Family::Pat,         Family::Pmt,
-                                            Family::Nit,         Family::Sdt,
+                                            Family::Nit,         Family::Bat,         Family::Sdt,
                                             Family::EitPf,       Family::EitSchedule,
                                             Family::EitScheduleCompressed, Family::DescriptorLoop};
     return all;
@@ -316,6 +334,7 @@ const char* FamilyName(Family family)
     case Family::Pat: return "PAT";
     case Family::Pmt: return "PMT";
     case Family::Nit: return "NIT";
+    case Family::Bat: return "BAT";
     case Family::Sdt: return "SDT";
     case Family::EitPf: return "EIT-pf";
     case Family::EitSchedule: return "EIT-sched";
@@ -331,6 +350,7 @@ int DecodedByPeers(Family family)
     case Family::Pat: return kPatPrograms;
     case Family::Pmt: return kPmtDescriptors - 3;          // CA twice and AC-3 stay raw
     case Family::Nit: return 2 + 4 * kNitTransportStreams; // network names; 0x5A, 0x41, 0x5F, 0x83 each
+    case Family::Bat: return 4 + 4 * kNitTransportStreams; // bouquet names and linkages; the streams as the NIT's
     case Family::Sdt: return kSdtServices;
     case Family::EitPf: return 2 * kDescriptorLoopDescriptors;
     case Family::EitSchedule: return 2 * kEitScheduleEventsPerSection * 4;

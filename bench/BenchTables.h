@@ -17,7 +17,7 @@ namespace zumbench {
 
 using zumtest::Bytes;
 
-enum class Family { Pat, Pmt, Nit, Sdt, EitPf, EitSchedule, EitScheduleCompressed, DescriptorLoop };
+enum class Family { Pat, Pmt, Nit, Bat, Sdt, EitPf, EitSchedule, EitScheduleCompressed, DescriptorLoop };
 
 const std::vector<Family>& AllFamilies();
 const char* FamilyName(Family family);
@@ -41,6 +41,7 @@ const Table& TableOf(Family family);
 constexpr unsigned kTransportStreamId = 0x1001;
 constexpr unsigned kOriginalNetworkId = 0x3001;
 constexpr unsigned kNetworkId = 0x3001;
+constexpr unsigned kBouquetId = 0x6252;
 constexpr unsigned kProgramNumber = 0x0101;
 constexpr unsigned kEitServiceId = 0x0101;
 constexpr unsigned kPrivateDataSpecifier = 0x00000028;

@@ -7,6 +7,7 @@
 
 #include <zum-parser/core/Descriptor.h>
 #include <zum-parser/core/DescriptorHash.h>
+#include <zum-parser/dvb/DVBBATParser.h>
 #include <zum-parser/dvb/DVBEITParser.h>
 #include <zum-parser/dvb/DVBNITParser.h>
 #include <zum-parser/dvb/DVBSDTParser.h>
@@ -101,6 +102,24 @@ void Nit(benchmark::State& state)
         return state.SkipWithError("NIT transport stream descriptors missing");
     // Per pass: two sections, 20 transport streams with delivery, service
     // list and (under the specifier) logical channel descriptors.
+    RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
+}
+
+void Bat(benchmark::State& state)
+{
+    const Table& table = TableOf(Family::Bat);
+    ReportHeld<TCDVBBATParser>(state, table, kHandle);
+    TCDVBBATParser parser(kHandle);
+    parser.Initialize();
+    const TCDVBBATInstance* bouquet = nullptr;
+    if (!Prime(parser, table) || !(bouquet = parser.GetInstance(kBouquetId)) ||
+        bouquet->NumOfDVBItemMux() != kNitTransportStreams || bouquet->NumOfDescriptors(0x4A) != 2)
+        return state.SkipWithError("BAT not decoded");
+    const TCDVBItemMux* mux = bouquet->DVBItemMuxOfIndex(0);
+    if (!mux || mux->NumOfDescriptors(0x41) != 1 || mux->NumOfDescriptors(0x83) != 1)
+        return state.SkipWithError("BAT transport stream descriptors missing");
+    // Per pass: two sections, bouquet names and linkages, 20 transport streams
+    // with the NIT's descriptors.
     RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
 }
 
@@ -209,6 +228,7 @@ void RegisterZum(Family family)
     case Family::Pat: Register(family, kZum, Pat); break;
     case Family::Pmt: Register(family, kZum, Pmt); break;
     case Family::Nit: Register(family, kZum, Nit); break;
+    case Family::Bat: Register(family, kZum, Bat); break;
     case Family::Sdt: Register(family, kZum, Sdt); break;
     case Family::EitPf:
     case Family::EitSchedule:

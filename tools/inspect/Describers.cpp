@@ -20,6 +20,7 @@
 #include "dvb/DescContent.h"
 #include "dvb/DescCountryAvailability.h"
 #include "dvb/DescLanguage.h"
+#include "dvb/DescLinkage.h"
 #include "dvb/DescLocalTimeOffset.h"
 #include "dvb/DescMultilingualNetworkName.h"
 #include "dvb/DescNetworkName.h"
@@ -32,7 +33,9 @@
 #include "inspect/EwsView.h"
 #include "isdb/DescEmergencyInformation.h"
 #include "operators/DescLogicalChannel.h"
+#include "inspect/LinkageView.h"
 #include "operators/DescLogicalChannelV2.h"
+#include "psi/DescCA.h"
 
 namespace zuminspect {
 
@@ -458,6 +461,11 @@ DescriberTable MakeTable()
     Register<TCDescLogicalChannel>(t, LogicalChannel);
     Register<TCDescLogicalChannelV2>(t, LogicalChannelV2);
     Register<TCDescEmergencyInformation>(t, DescribeEmergencyInformation);
+    Register<TCDescLinkage>(t, LinkageFields);
+    Register<TCDescDataBroadcast>(t, DataBroadcastFields);
+    Register<TCDescDataBroadcastId>(t, DataBroadcastIdFields);
+    Register<TCDescSSULocation>(t, SSULocationFields);
+    Register<TCDescCA>(t, CAFields);
     return t;
 }
 

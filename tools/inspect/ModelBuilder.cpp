@@ -4,6 +4,7 @@
 #include <set>
 
 #include "core/Descriptor.h"
+#include "dvb/DVBBATParser.h"
 #include "dvb/DVBLCNParser.h"
 #include "dvb/DVBNITParser.h"
 #include "dvb/DVBSDTParser.h"
@@ -17,6 +18,7 @@
 #include "inspect/TableIds.h"
 #include "inspect/TsDemux.h"
 #include "operators/DescLogicalChannel.h"
+#include "psi/DVBCATParser.h"
 #include "psi/PATParser.h"
 #include "psi/PMTParser.h"
 
@@ -39,6 +41,8 @@ struct Builder {
     Json Pat() const;
     Json Pmts() const;
     Json Nits() const;
+    Json Bats() const;
+    Json Cat() const;
     Json TransportStream(const TCDVBItemMux& mux) const;
     Json Sdts() const;
     Json SdtService(const TCDVBSDTItemService& service) const;
@@ -169,6 +173,34 @@ Json Builder::Nits() const
         }
     }
     return nits;
+}
+
+Json Builder::Bats() const
+{
+    Json bats = Json::array();
+    const TCDVBBATParser* bat = router.Bat();
+    std::list<unsigned short> ids;
+    if (bat != nullptr)
+        bat->BouquetIds(ids);
+    for (unsigned short id : ids) {
+        const TCDVBBATInstance* bouquet = bat->GetInstance(id);
+        Json streams = Json::array();
+        for (int i = 0; i < bouquet->NumOfDVBItemMux(); ++i)
+            streams.push_back(TransportStream(*bouquet->DVBItemMuxOfIndex(static_cast<unsigned>(i))));
+        bats.push_back({{"bouquetId", id},
+                        {"complete", bouquet->IsValid()},
+                        {"descriptors", DescribeLoop(*bouquet, text)},
+                        {"transportStreams", streams}});
+    }
+    return bats;
+}
+
+Json Builder::Cat() const
+{
+    const TCDVBCATParser* cat = router.Cat();
+    if (cat == nullptr)
+        return nullptr;
+    return {{"complete", cat->IsValid()}, {"descriptors", DescribeLoop(*cat, text)}};
 }
 
 Json Builder::SdtService(const TCDVBSDTItemService& service) const
@@ -346,7 +378,9 @@ Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContex
               {"bytes", context.bytes}}},
             {"pat", b.Pat()},
             {"pmts", b.Pmts()},
+            {"cat", b.Cat()},
             {"nits", b.Nits()},
+            {"bats", b.Bats()},
             {"sdts", b.Sdts()},
             {"eit", b.Events()},
             {"tdt", b.Tdt()},

@@ -15,6 +15,8 @@
 //                "transportStreams": [{"transportStreamId", "originalNetworkId", "descriptors": [D],
 //                  "services": [{"serviceId", "serviceType", "channelNumber": n|null,
 //                                "channelNumberTag": tag of the answering descriptor|null}]}]}],
+//   "cat":     null | {"complete", "descriptors": [D]},
+//   "bats":    [{"bouquetId", "complete", "descriptors": [D], "transportStreams": [as in "nits"]}],
 //   "sdts":    [{"tableId", "originalNetworkId", "transportStreamId", "version",
 //                "services": [{"serviceId", "type", "provider", "name" (null without a service
 //                  descriptor), "runningStatus", "freeCA", "eitSchedule", "eitPresentFollowing",

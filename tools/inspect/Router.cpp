@@ -4,6 +4,7 @@
 
 #include <zum-platform/Binder.h>
 
+#include "dvb/DVBBATParser.h"
 #include "dvb/DVBEITParser.h"
 #include "dvb/DVBLCNParser.h"
 #include "dvb/DVBNITParser.h"
@@ -14,6 +15,7 @@
 #include "inspect/TsDemux.h"
 #include "isdb/EWSParser.h"
 #include "program/SITParser.h"
+#include "psi/DVBCATParser.h"
 #include "psi/PATParser.h"
 #include "psi/PMTParser.h"
 
@@ -63,8 +65,8 @@ Router::~Router() = default;
 
 bool Router::Wants(uint16_t pid) const
 {
-    return m_allPids || pid == kPidPat || pid == kPidNit || pid == kPidSdt || pid == kPidEit || pid == kPidTime ||
-           pid == kPidSit || pid == kNoPid || m_pmtPids.count(pid) > 0 || pid == m_networkPid ||
+    return m_allPids || pid == kPidPat || pid == kPidCat || pid == kPidNit || pid == kPidSdt || pid == kPidEit ||
+           pid == kPidTime || pid == kPidSit || pid == kNoPid || m_pmtPids.count(pid) > 0 || pid == m_networkPid ||
            m_privateSectionPids.count(pid) > 0;
 }
 
@@ -84,6 +86,10 @@ Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
     // 0x80 is a compressed EIT on the EIT PID, the emergency warning table on a private-section stream.
     if (tableId == kTidEws && pid != kPidEit && m_privateSectionPids.count(pid) > 0)
         return Kind::Ews;
+    if (tableId == 0x4A && (any || pid == kPidSdt))
+        return Kind::Bat;
+    if (tableId == 0x01 && (any || pid == kPidCat))
+        return Kind::Cat;
     // 0x85 is a compressed EIT on the EIT PID and the channel number table anywhere else.
     if (IsEit(tableId) && (pid == kPidEit || (any && tableId != kTidLcn)))
     // 0x85 is a compressed EIT on the EIT PID and the channel number table
@@ -139,6 +145,8 @@ TCSectionParser* Router::m_Parser(Kind kind, uint8_t tableId)
     case Kind::Lcn: return Lazy(m_lcn, m_handle);
     case Kind::Ews: return Lazy(m_ews);
     case Kind::Sit: return Lazy(m_sit, static_cast<int>(tableId), m_handle);
+    case Kind::Bat: return Lazy(m_bat, m_handle);
+    case Kind::Cat: return Lazy(m_cat, m_handle);
     case Kind::None: break;
     }
     return nullptr;
@@ -215,6 +223,8 @@ std::string Router::ParserName(uint16_t pid, uint8_t tableId) const
     case Kind::Lcn: return "TCDVBLCNParser";
     case Kind::Ews: return "TCEWSParser";
     case Kind::Sit: return "TCSITParser";
+    case Kind::Bat: return "TCDVBBATParser";
+    case Kind::Cat: return "TCDVBCATParser";
     case Kind::None: break;
     }
     return std::string();
@@ -259,6 +269,13 @@ std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
     case Kind::Lcn: return m_lcn && m_lcn->IsRecv();
     case Kind::Ews: return m_ews && m_ews->IsValidTRDW() && m_ews->IsValidTCDW() && m_ews->IsValidTMDW();
     case Kind::Sit: return m_sit && m_sit->IsRecv();
+    case Kind::Bat: {
+        std::list<unsigned short> ids;
+        if (m_bat)
+            m_bat->BouquetIds(ids);
+        return AllValid(ids, [&](unsigned short id) { return m_bat->GetInstance(id)->IsValid(); });
+    }
+    case Kind::Cat: return m_cat && m_cat->IsValid();
     case Kind::None: break;
     }
     return std::nullopt;
