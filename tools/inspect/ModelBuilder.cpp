@@ -10,6 +10,7 @@
 #include "dvb/DVBTDTParser.h"
 #include "dvb/DVBTOTParser.h"
 #include "dvb/DescService.h"
+#include "inspect/AtscView.h"
 #include "inspect/Describers.h"
 #include "inspect/Router.h"
 #include "inspect/TsDemux.h"
@@ -81,6 +82,9 @@ std::string TableName(uint16_t pid, uint8_t tableId)
     case 0x70: return "TDT";
     case 0x73: return "TOT";
     case 0x74: return "AIT";
+    case 0xC7: return "MGT";
+    case 0xC8: return "TVCT";
+    case 0xC9: return "CVCT";
     default: return "";
     }
 }
@@ -346,6 +350,7 @@ Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContex
             {"tdt", b.Tdt()},
             {"tot", b.Tot()},
             {"lcn", b.Lcn()},
+            {"atsc", DescribeAtsc(router.Atsc(), b.text)},
             {"summary", b.Summary()}};
 }
 

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <string>
 
+#include "inspect/AtscView.h"
 #include "inspect/Text.h"
 
 namespace zuminspect {
@@ -234,6 +235,11 @@ void RenderJson(const Json& model, std::ostream& out)
     out << model.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
 }
 
+void RenderDescriptors(const Json& list, int depth, std::ostream& out)
+{
+    Tree(out).Descriptors(depth, list);
+}
+
 void RenderTree(const Json& model, std::ostream& out)
 {
     Tree tree(out);
@@ -246,6 +252,7 @@ void RenderTree(const Json& model, std::ostream& out)
     tree.Events(model["eit"]);
     tree.Times(model["tdt"], model["tot"]);
     tree.Lcn(model["lcn"]);
+    RenderAtscTree(model["atsc"], out);
     tree.Summary(model["summary"]);
 }
 

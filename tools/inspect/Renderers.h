@@ -27,6 +27,7 @@
 //   "tot":     null | {"time", "descriptors": [D]},
 //   "lcn":     null | {"pids": [..], "header": [3 numbers],
 //                      "records": [{"key": [3 numbers], "channelNumber", "visible", "extra"}]},
+//   "atsc":    null | the PSIP tables, see AtscView.h,
 //   "summary": {"demux": {"packetSize", "packets", "syncLosses", "skippedBytes", "truncatedPackets",
 //                         "continuityErrors", "transportErrors", "duplicates", "sections", "crcErrors",
 //                         "droppedSections", "unfinishedSections"},
@@ -49,6 +50,8 @@ namespace zuminspect {
 void RenderJson(const Json& model, std::ostream& out);
 // The same model as an indented tree for reading.
 void RenderTree(const Json& model, std::ostream& out);
+// A list of D as tree lines at `depth`.
+void RenderDescriptors(const Json& list, int depth, std::ostream& out);
 
 } // namespace zuminspect
 

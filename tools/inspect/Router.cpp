@@ -8,6 +8,7 @@
 #include "dvb/DVBSDTParser.h"
 #include "dvb/DVBTDTParser.h"
 #include "dvb/DVBTOTParser.h"
+#include "inspect/AtscView.h"
 #include "inspect/TsDemux.h"
 #include "psi/PATParser.h"
 #include "psi/PMTParser.h"
@@ -49,14 +50,15 @@ bool AllValid(const Range& range, Valid valid)
 
 } // namespace
 
-Router::Router(const ZUMHandle& handle, bool allPids) : m_handle(handle), m_allPids(allPids), m_events(handle) {}
+Router::Router(const ZUMHandle& handle, bool allPids) : m_handle(handle), m_allPids(allPids), m_events(handle),
+      m_atsc(new AtscTables(handle)) {}
 
 Router::~Router() = default;
 
 bool Router::Wants(uint16_t pid) const
 {
     return m_allPids || pid == kPidPat || pid == kPidNit || pid == kPidSdt || pid == kPidEit || pid == kPidTime ||
-           pid == kNoPid || m_pmtPids.count(pid) > 0 || pid == m_networkPid;
+           pid == kNoPid || m_pmtPids.count(pid) > 0 || pid == m_networkPid || m_atsc->Wants(pid);
 }
 
 Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
@@ -111,6 +113,8 @@ void Router::OnSection(uint16_t pid, const uint8_t* section, size_t size)
 
     const Kind kind = m_KindOf(pid, tableId);
     TCSectionParser* parser = m_Parser(kind, tableId);
+    if (parser == nullptr)
+        parser = m_atsc->Parser(pid, tableId);
     if (parser == nullptr) {
         ++counts.noParser;
         ++m_noParser;
@@ -127,6 +131,8 @@ void Router::OnSection(uint16_t pid, const uint8_t* section, size_t size)
         m_timeTablesTaken.insert(tableId);
     else if (kind == Kind::Lcn)
         m_lcnPids.insert(pid);
+    else if (kind == Kind::None)
+        m_atsc->Parsed(pid, tableId);
 }
 
 void Router::m_LearnPids()
@@ -153,7 +159,7 @@ std::string Router::ParserName(uint16_t pid, uint8_t tableId) const
     case Kind::Lcn: return "TCDVBLCNParser";
     case Kind::None: break;
     }
-    return std::string();
+    return m_atsc->ParserName(pid, tableId);
 }
 
 std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
@@ -195,7 +201,7 @@ std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
     case Kind::Lcn: return m_lcn && m_lcn->IsRecv();
     case Kind::None: break;
     }
-    return std::nullopt;
+    return m_atsc->Complete(pid, tableId);
 }
 
 } // namespace zuminspect

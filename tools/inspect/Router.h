@@ -30,6 +30,10 @@ class TCDVBTOTParser;
 class TCDVBLCNParser;
 
 namespace zuminspect {
+class AtscTables;
+}
+
+namespace zuminspect {
 
 constexpr uint16_t kPidPat = 0x0000;
 constexpr uint16_t kPidNit = 0x0010;
@@ -78,6 +82,8 @@ public:
     const TCDVBLCNParser* Lcn() const { return m_lcn.get(); }
     const std::set<uint16_t>& LcnPids() const { return m_lcnPids; }
     const EitCollector& Events() const { return m_events; }
+    // The PSIP tables on the base PID, with an ATSC country.
+    const AtscTables& Atsc() const { return *m_atsc; }
 
 private:
     enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn };
@@ -102,6 +108,7 @@ private:
     std::set<uint16_t> m_lcnPids;
     std::set<uint8_t> m_timeTablesTaken;
     EitCollector m_events;
+    std::unique_ptr<AtscTables> m_atsc;
 
     std::map<TableKey, TableCounts> m_counts;
     uint64_t m_routed = 0;
