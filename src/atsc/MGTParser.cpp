@@ -1,7 +1,6 @@
 #include "MGTParser.h"
 
 #include <algorithm>
-#include <iterator>
 
 #include "../core/ByteReader.h"
 #include "../core/Descriptor.h"
@@ -40,8 +39,11 @@ int TCMGTTable::Parse(const unsigned char* data, int size)
         ZUM_LOGD("MGT Descriptor Parsing error total size = %d , parsed len = %d", size, length + kTableHeaderSize);
         return size;
     }
-    TCDescriptor loop(m_handle);
-    loop.Parse(data + kTableHeaderSize, length, m_descriptors, kMgtTableId);
+    // An empty loop has nothing to walk.
+    if (length > 0) {
+        TCDescriptor loop(m_handle);
+        loop.Parse(data + kTableHeaderSize, length, m_descriptors, kMgtTableId);
+    }
     return length + kTableHeaderSize;
 }
 
@@ -92,6 +94,7 @@ bool TCMGTParser::t_Parse(const unsigned char* body, int length)
     // Bytes behind tables_defined, CRC_32 included.
     const int available = length - kTablesDefinedSize;
     int parsed = 0;
+    m_tables.reserve(std::min(tablesDefined, available / kTableHeaderSize));
     for (int i = 0; i < tablesDefined; ++i) {
         std::unique_ptr<TCMGTTable> table(new TCMGTTable(m_handle));
         parsed += table->Parse(tables + parsed, available - parsed);
@@ -106,7 +109,9 @@ bool TCMGTParser::t_Parse(const unsigned char* body, int length)
         else if (type >= 0x0200 && type <= 0x027F)
             ++m_ettCount;
         // A repeated type keeps its first entry.
-        m_tables.emplace(type, std::move(table));
+        const auto at = m_LowerBound(type);
+        if (at == m_tables.end() || (*at)->TableType() != type)
+            m_tables.insert(at, std::move(table));
     }
     if (parsed + kDescriptorsLengthSize > available) {
         ZUM_LOGD("TCMGTParser::Descriptor parsing error... parsed len = %d , total size = %d", parsed, length);
@@ -124,15 +129,19 @@ bool TCMGTParser::t_Parse(const unsigned char* body, int length)
     return true;
 }
 
+std::vector<std::unique_ptr<TCMGTTable>>::const_iterator TCMGTParser::m_LowerBound(int tableType) const
+{
+    return std::lower_bound(m_tables.begin(), m_tables.end(), tableType,
+                            [](const std::unique_ptr<TCMGTTable>& t, int type) { return t->TableType() < type; });
+}
+
 TCMGTTable* TCMGTParser::MGTTable(unsigned short tableType) const
 {
-    const auto it = m_tables.find(tableType);
-    return it == m_tables.end() ? nullptr : it->second.get();
+    const auto it = m_LowerBound(tableType);
+    return it == m_tables.end() || (*it)->TableType() != tableType ? nullptr : it->get();
 }
 
 TCMGTTable* TCMGTParser::MGTTableOfIndex(unsigned int index) const
 {
-    if (index >= m_tables.size())
-        return nullptr;
-    return std::next(m_tables.begin(), index)->second.get();
+    return index < m_tables.size() ? m_tables[index].get() : nullptr;
 }

@@ -1,8 +1,8 @@
 #ifndef ZUM_ATSC_MGTPARSER_H
 #define ZUM_ATSC_MGTPARSER_H
 
-#include <map>
 #include <memory>
+#include <vector>
 
 #include <zum-platform/ZUMHandle.h>
 
@@ -56,9 +56,13 @@ protected:
     bool t_CheckPSIPTable(unsigned char tableId) override;
 
 private:
+    std::vector<std::unique_ptr<TCMGTTable>>::const_iterator m_LowerBound(int tableType) const;
+
     unsigned int m_eitCount = 0;
     unsigned int m_ettCount = 0;
-    std::map<int, std::unique_ptr<TCMGTTable>> m_tables;
+    // One entry a table type, in ascending order: a sorted list, one block
+    // for a section's entries instead of a tree node each.
+    std::vector<std::unique_ptr<TCMGTTable>> m_tables;
 };
 
 #endif
