@@ -52,6 +52,33 @@ bool IsSkippedMode(unsigned char mode)
            (mode >= 0x34 && mode <= 0x3E) || mode >= 0x40;
 }
 
+// Reads children of `header`-byte headers from `offset` until `count` are
+// held. Answers the offset behind the last one, or, where a child's header no
+// longer fits, an offset past `size`.
+template <class Child>
+unsigned int ReadChildren(std::vector<std::unique_ptr<Child>>& children, unsigned int count,
+                          const unsigned char* data, unsigned int size, unsigned int offset, unsigned int header)
+{
+    children.reserve(count);
+    for (;;) {
+        if (size - offset < header)
+            return offset + header;
+        children.emplace_back(new Child);
+        offset += children.back()->Set(data + offset, size - offset);
+        if (children.size() == count)
+            return offset;
+    }
+}
+
+template <class Child>
+void CopyChildren(std::vector<std::unique_ptr<Child>>& children, const std::vector<std::unique_ptr<Child>>& from)
+{
+    children.clear();
+    children.reserve(from.size());
+    for (const auto& child : from)
+        children.emplace_back(new Child(*child));
+}
+
 } // namespace
 
 const unsigned int g_MTSSIGroup[][10] = {
@@ -255,10 +282,7 @@ TCMultipleString& TCMultipleString::operator=(const TCMultipleString& other)
         return *this;
     m_language = other.m_language;
     m_numberSegments = other.m_numberSegments;
-    m_DeleteSegments();
-    m_segments.reserve(other.m_segments.size());
-    for (const auto& segment : other.m_segments)
-        m_segments.emplace_back(new TCMultipleStringSegment(*segment));
+    CopyChildren(m_segments, other.m_segments);
     return *this;
 }
 
@@ -275,19 +299,10 @@ unsigned int TCMultipleString::Set(const unsigned char* data, unsigned int size)
     m_numberSegments = data[3];
     if (m_numberSegments == 0)
         return kStringHeader;
-    m_segments.reserve(m_numberSegments);
-    unsigned int offset = kStringHeader;
-    while (offset <= size) {
-        // A segment header that does not fit fails the string.
-        if (size - offset < kSegmentHeader) {
-            offset += kSegmentHeader;
-            break;
-        }
-        m_segments.emplace_back(new TCMultipleStringSegment);
-        offset += m_segments.back()->Set(data + offset, size - offset);
-        if (m_segments.size() == m_numberSegments)
-            return offset;
-    }
+    // A segment header that does not fit fails the string.
+    const unsigned int offset = ReadChildren(m_segments, m_numberSegments, data, size, kStringHeader, kSegmentHeader);
+    if (offset <= size)
+        return offset;
     ZUM_LOGD("TCMultipleString::Set size error %d", static_cast<int>(offset));
     m_DeleteSegments();
     return size;
@@ -321,10 +336,7 @@ TCMultipleStringStruct& TCMultipleStringStruct::operator=(const TCMultipleString
     if (this == &other)
         return *this;
     m_numberStrings = other.m_numberStrings;
-    m_DeleteStrings();
-    m_strings.reserve(other.m_strings.size());
-    for (const auto& string : other.m_strings)
-        m_strings.emplace_back(new TCMultipleString(*string));
+    CopyChildren(m_strings, other.m_strings);
     return *this;
 }
 
@@ -339,19 +351,10 @@ unsigned int TCMultipleStringStruct::Set(const unsigned char* data, unsigned int
     m_numberStrings = data[0];
     if (m_numberStrings == 0)
         return kStructHeader;
-    m_strings.reserve(m_numberStrings);
-    unsigned int offset = kStructHeader;
-    while (offset <= size) {
-        // A string header that does not fit fails the structure.
-        if (size - offset < kStringHeader) {
-            offset += kStringHeader;
-            break;
-        }
-        m_strings.emplace_back(new TCMultipleString);
-        offset += m_strings.back()->Set(data + offset, size - offset);
-        if (m_strings.size() == m_numberStrings)
-            return offset;
-    }
+    // A string header that does not fit fails the structure.
+    const unsigned int offset = ReadChildren(m_strings, m_numberStrings, data, size, kStructHeader, kStringHeader);
+    if (offset <= size)
+        return offset;
     ZUM_LOGD("TCMultipleStringStruct::Set size error %d", static_cast<int>(offset));
     m_DeleteStrings();
     return size;

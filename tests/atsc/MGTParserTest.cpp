@@ -1,11 +1,10 @@
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <tuple>
 #include <vector>
 
+#include "AtscCapture.h"
 #include "atsc/MGTParser.h"
 #include "support/LogCapture.h"
 #include "support/SectionBuilder.h"
@@ -166,24 +165,14 @@ TEST(MGTParser, MalformedEntriesEndTheSectionAndKeepEarlierOnes)
 
 TEST(MGTParser, RealCapture)
 {
-    std::ifstream in(std::string(ZUM_CAPTURES_DIR) + "/tsduck_tsduck-test__ref_test-040.tstables.bin",
-                     std::ios::binary);
-    if (!in)
+    const std::vector<Bytes> sections = atsctest::CaptureSections(0xC7);
+    if (sections.empty())
         GTEST_SKIP() << "captures not available";
-    const Bytes file((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
     zumtest::BinderScope binder(Usa());
     TCMGTParser mgt(ZUMHandle{});
     mgt.Initialize();
-    bool seen = false;
-    for (size_t at = 0; at + 3 <= file.size();) {
-        const size_t size = 3 + (((file[at + 1] & 0x0F) << 8) | file[at + 2]);
-        if (file[at] == 0xC7) {
-            EXPECT_TRUE(mgt.Parse(0x1FFB, file.data() + at));
-            seen = true;
-        }
-        at += size;
-    }
-    ASSERT_TRUE(seen);
+    for (const Bytes& section : sections)
+        EXPECT_TRUE(mgt.Parse(0x1FFB, section.data()));
     EXPECT_EQ(mgt.NumOfTable(), 11u);
     const TCMGTTable* tvct = mgt.MGTTable(0x0000);
     ASSERT_NE(tvct, nullptr);

@@ -1,12 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <list>
 #include <string>
 #include <tuple>
 #include <vector>
 
+#include "AtscCapture.h"
 #include "atsc/DescExtendedChannelName.h"
 #include "atsc/DescServiceLocation.h"
 #include "atsc/VCTParser.h"
@@ -255,20 +254,14 @@ TEST(VCTParser, AChannelRunningOverEndsTheSection)
 
 TEST(VCTParser, RealCapture)
 {
-    std::ifstream in(std::string(ZUM_CAPTURES_DIR) + "/tsduck_tsduck-test__ref_test-040.tstables.bin",
-                     std::ios::binary);
-    if (!in)
+    const std::vector<Bytes> sections = atsctest::CaptureSections(0xC8);
+    if (sections.empty())
         GTEST_SKIP() << "captures not available";
-    const Bytes file((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
     zumtest::BinderScope binder(Usa());
     TCTVCTParser vct(ZUMHandle{});
     vct.Initialize();
-    for (size_t at = 0; at + 3 <= file.size();) {
-        if (file[at] == 0xC8) {
-            EXPECT_TRUE(vct.Parse(0x1FFB, file.data() + at));
-        }
-        at += 3 + (((file[at + 1] & 0x0F) << 8) | file[at + 2]);
-    }
+    for (const Bytes& section : sections)
+        EXPECT_TRUE(vct.Parse(0x1FFB, section.data()));
     ASSERT_EQ(vct.NumOfVCTChannel(), 4u);
     std::vector<std::string> names;
     for (unsigned i = 0; i < 4; ++i) {
