@@ -261,10 +261,10 @@ Json DescribeAtsc(const AtscTables& tables, const TextDecoder& text)
 
 std::optional<Json> DescribeAtscDescriptor(const TCBaseDesc& desc)
 {
-    if (const auto* d = dynamic_cast<const TCDescExtendedChannelName*>(&desc)) {
-        if (d->ExtendedChannelNameString() == nullptr)
+    if (const auto* d = dynamic_cast<const TCDescMultipleStringName*>(&desc)) {
+        if (d->NameStructure() == nullptr)
             return Json{{"text", nullptr}, {"strings", Json::array()}};
-        return StringStructure(*d->ExtendedChannelNameString());
+        return StringStructure(*d->NameStructure());
     }
     if (const auto* d = dynamic_cast<const TCDescServiceLocation*>(&desc)) {
         Json elements = Json::array();
