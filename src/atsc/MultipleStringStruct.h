@@ -17,8 +17,10 @@
 constexpr unsigned int kLanguageNoGroup = 0x7A7A7B;
 
 // Rows of the language groups: key, then up to nine members (small language
-// numbers or packed codes), ended by 0xFFFFFFFF; a key of 0xFFFFFFFF ends the table.
-ZUM_EXPORT extern const unsigned int g_MTSSIGroup[][10];
+// numbers or packed codes), ended by 0xFFFFFFFF; a key of 0xFFFFFFFF ends the
+// table. Internal: the shared library exports classes only, so callers reach
+// the groups through TCMultipleStringStruct::MultipleSound.
+extern const unsigned int g_MTSSIGroup[][10];
 
 // One segment: compression type, mode and the compressed bytes.
 class ZUM_EXPORT TCMultipleStringSegment {
