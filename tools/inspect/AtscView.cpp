@@ -176,16 +176,24 @@ TCSectionParser* AtscTables::Parser(uint16_t pid, uint8_t tableId)
 {
     switch (m_KindOf(pid, tableId)) {
     case Kind::Mgt: return Made<TCMGTParser>(m_mgt, m_handle);
-    case Kind::Tvct: return Made<TCTVCTParser>(m_tvct, m_handle);
-    case Kind::Cvct: return Made<TCCVCTParser>(m_cvct, m_handle);
-    case Kind::None: break;
+    case Kind::Tvct: Made<TCTVCTParser>(m_tvct, m_handle); break;
+    case Kind::Cvct: Made<TCCVCTParser>(m_cvct, m_handle); break;
+    case Kind::None: return nullptr;
     }
-    return nullptr;
+    // A VCT made after the MGT came learns its version too.
+    m_HandMgtVersions();
+    return tableId == kTidTvct ? m_tvct.get() : m_cvct.get();
 }
 
 void AtscTables::Parsed(uint16_t pid, uint8_t tableId)
 {
-    if (m_KindOf(pid, tableId) != Kind::Mgt || !m_mgt)
+    if (m_KindOf(pid, tableId) == Kind::Mgt)
+        m_HandMgtVersions();
+}
+
+void AtscTables::m_HandMgtVersions()
+{
+    if (!m_mgt)
         return;
     // The caller's part of the VCT gate: the version the MGT announces.
     const std::pair<unsigned short, TCVCTParser*> vcts[] = {{kTypeTvctCurrent, m_tvct.get()},

@@ -59,6 +59,7 @@ public:
 private:
     enum class Kind { None, Mgt, Tvct, Cvct };
     Kind m_KindOf(uint16_t pid, uint8_t tableId) const;
+    void m_HandMgtVersions();
 
     ZUMHandle m_handle;
     bool m_enabled;
