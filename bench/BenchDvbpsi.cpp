@@ -41,6 +41,10 @@
 #include <dvbpsi/dr_59.h>
 #include <dvbpsi/dr_5a.h>
 #include <dvbpsi/dr_83.h>
+#include <dvbpsi/dr_a0.h>
+#include <dvbpsi/dr_a1.h>
+#include <dvbpsi/atsc_mgt.h>
+#include <dvbpsi/atsc_vct.h>
 // clang-format on
 
 #include "inspect/TsMux.h"
@@ -86,6 +90,8 @@ bool DecodeDescriptor(dvbpsi_descriptor_t* d)
     case 0x55: return dvbpsi_DecodeParentalRatingDr(d) != nullptr;
     case 0x5A: return dvbpsi_DecodeTerrDelivSysDr(d) != nullptr;
     case 0x83: return dvbpsi_DecodeLCNDr(d) != nullptr;
+    case 0xA0: return dvbpsi_ExtendedChannelNameDr(d) != nullptr;
+    case 0xA1: return dvbpsi_DecodeServiceLocationDr(d) != nullptr;
     // No decoder of its own: the specifier is read in place, as a loop walk does.
     case 0x5F: return d->i_length >= 4 && d->p_data[0] == 0x00;
     default: return false;
@@ -163,6 +169,30 @@ void OnEit(void* data, dvbpsi_eit_t* eit)
     dvbpsi_eit_delete(eit);
 }
 
+// The PSIP tables count their entries and channels, as GStreamer's do; the
+// channel descriptors are decoded all the same.
+void OnMgt(void* data, dvbpsi_atsc_mgt_t* mgt)
+{
+    auto* seen = static_cast<Seen*>(data);
+    ++seen->tables;
+    for (dvbpsi_atsc_mgt_table_t* t = mgt->p_first_table; t; t = t->p_next) {
+        DecodeDescriptors(t->p_first_descriptor);
+        ++seen->count;
+    }
+    dvbpsi_atsc_DeleteMGT(mgt);
+}
+
+void OnVct(void* data, dvbpsi_atsc_vct_t* vct)
+{
+    auto* seen = static_cast<Seen*>(data);
+    ++seen->tables;
+    for (dvbpsi_atsc_vct_channel_t* c = vct->p_first_channel; c; c = c->p_next) {
+        DecodeDescriptors(c->p_first_descriptor);
+        ++seen->count;
+    }
+    dvbpsi_atsc_DeleteVCT(vct);
+}
+
 void OnNewSubtable(dvbpsi_t* handle, uint8_t tableId, uint16_t extension, void* data)
 {
     if (tableId == 0x40 || tableId == 0x41)
@@ -173,6 +203,10 @@ void OnNewSubtable(dvbpsi_t* handle, uint8_t tableId, uint16_t extension, void* 
         dvbpsi_sdt_attach(handle, tableId, extension, OnSdt, data);
     else if (tableId >= 0x4E && tableId <= 0x6F)
         dvbpsi_eit_attach(handle, tableId, extension, OnEit, data);
+    else if (tableId == 0xC7)
+        dvbpsi_atsc_AttachMGT(handle, tableId, extension, OnMgt, data);
+    else if (tableId == 0xC8 || tableId == 0xC9)
+        dvbpsi_atsc_AttachVCT(handle, tableId, extension, OnVct, data);
 }
 
 void Quiet(dvbpsi_t*, const dvbpsi_msg_level_t, const char*) {}

@@ -221,6 +221,14 @@ int Pass(Family family, const Table& table, uint64_t n)
                         static_cast<const GstMpegtsEITEvent*>(g_ptr_array_index(eit->events, i))->descriptors);
             }
             break;
+        case Family::Mgt:
+            if (const GstMpegtsAtscMGT* mgt = gst_mpegts_section_get_atsc_mgt(section))
+                count += static_cast<int>(mgt->tables->len);
+            break;
+        case Family::Tvct:
+            if (const GstMpegtsAtscVCT* vct = gst_mpegts_section_get_atsc_tvct(section))
+                count += static_cast<int>(vct->sources->len);
+            break;
         default: break;
         }
         gst_mpegts_section_unref(section);

@@ -18,6 +18,7 @@ constexpr uint16_t kPidPmt = 0x0100;
 constexpr uint16_t kPidNit = 0x0010;
 constexpr uint16_t kPidSdt = 0x0011;
 constexpr uint16_t kPidEit = 0x0012;
+constexpr uint16_t kPidPsip = 0x1FFB;
 
 Bytes Text(const std::string& text)
 {
@@ -285,6 +286,59 @@ std::vector<Bytes> EitSchedule(unsigned version, bool compressed)
     return sections;
 }
 
+// ---- PSIP: the MGT of a terrestrial station and its TVCT -----------------------
+
+zumtest::SectionHeader PsipHeader(unsigned tableId, unsigned extension, unsigned version)
+{
+    zumtest::SectionHeader header = zumtest::LongHeader(tableId, extension, version);
+    header.protocolVersion = 0;
+    return header;
+}
+
+// TVCT, channel ETT, EIT-0..7, ETT-0..7 and the rating region table.
+Bytes Mgt(unsigned version)
+{
+    std::vector<std::pair<unsigned, unsigned>> tables = {{0x0000, 0x1FFB}, {0x0004, 0x1E80}};
+    for (unsigned i = 0; i < 8; ++i)
+        tables.push_back({0x0100 + i, 0x1D00 + i});
+    for (unsigned i = 0; i < 8; ++i)
+        tables.push_back({0x0200 + i, 0x1E00 + i});
+    tables.push_back({0x0301, 0x1FFB});
+    SectionBuilder s(PsipHeader(0xC7, 0x0000, version));
+    s.U16(static_cast<unsigned>(tables.size()));
+    for (const auto& t : tables)
+        s.U16(t.first).U16(0xE000 | t.second).U8(0xE0 | version).U32(0x400 + t.second).Begin16().End();
+    s.Begin16().End();
+    return s.Build();
+}
+
+// Eight channels 10.1 to 10.8, each with an English long name and the
+// location of its video and two audio streams.
+Bytes Tvct(unsigned version)
+{
+    SectionBuilder s(PsipHeader(0xC8, kTransportStreamId, version));
+    s.U8(static_cast<unsigned>(kTvctChannels));
+    for (unsigned i = 0; i < static_cast<unsigned>(kTvctChannels); ++i) {
+        const std::string shortName = "KULX-" + std::to_string(i + 1);
+        for (size_t c = 0; c < 7; ++c)
+            s.U16(c < shortName.size() ? static_cast<unsigned char>(shortName[c]) : 0);
+        s.U24(0xF00000u | (10u << 10) | (i + 1)).U8(0x04).U32(0).U16(kTransportStreamId).U16(i + 1);
+        s.U8(0x0D).U8(0xC2).U16(i + 1); // ETM none, hide_guide 0, ATSC digital television
+        const std::string name = "KULX Channel " + std::to_string(i + 1);
+        const unsigned pid = 0x31 + 0x10 * i;
+        s.Begin16(10, 0xFC00);
+        s.Descriptor(0xA0, Concat({{0x01}, Text("eng"), {0x01, 0x00, 0x00, static_cast<uint8_t>(name.size())},
+                                   Text(name)}));
+        s.Descriptor(0xA1, Concat({U16(0xE000 | pid), {0x03},
+                                   {0x02}, U16(0xE000 | pid), {0, 0, 0},
+                                   {0x81}, U16(0xE000 | (pid + 3)), Text("eng"),
+                                   {0x81}, U16(0xE000 | (pid + 4)), Text("spa")}));
+        s.End();
+    }
+    s.Begin16(10, 0xFC00).End();
+    return s.Build();
+}
+
 Table Make(Family family)
 {
     Table t;
@@ -304,6 +358,8 @@ Table Make(Family family)
             t.versions[v] = EitSchedule(version, true);
             break;
         case Family::DescriptorLoop: t.pid = kPidEit; t.tableId = 0x4E; t.versions[v] = {RichEventLoop(1)}; break;
+        case Family::Mgt: t.pid = kPidPsip; t.tableId = 0xC7; t.versions[v] = {Mgt(version)}; break;
+        case Family::Tvct: t.pid = kPidPsip; t.tableId = 0xC8; t.versions[v] = {Tvct(version)}; break;
         }
     }
     return t;
@@ -324,7 +380,8 @@ const std::vector<Family>& AllFamilies()
     static const std::vector<Family> all = {Family::Pat,         Family::Pmt,
                                             Family::Nit,         Family::Bat,         Family::Sdt,
                                             Family::EitPf,       Family::EitSchedule,
-                                            Family::EitScheduleCompressed, Family::DescriptorLoop};
+                                            Family::EitScheduleCompressed, Family::DescriptorLoop,
+                                            Family::Mgt,         Family::Tvct};
     return all;
 }
 
@@ -340,6 +397,8 @@ const char* FamilyName(Family family)
     case Family::EitSchedule: return "EIT-sched";
     case Family::EitScheduleCompressed: return "EIT-sched-zlib";
     case Family::DescriptorLoop: return "DescLoop";
+    case Family::Mgt: return "MGT";
+    case Family::Tvct: return "TVCT";
     }
     return "?";
 }
@@ -356,6 +415,8 @@ int DecodedByPeers(Family family)
     case Family::EitSchedule: return 2 * kEitScheduleEventsPerSection * 4;
     case Family::EitScheduleCompressed: return -1;
     case Family::DescriptorLoop: return kDescriptorLoopDescriptors;
+    case Family::Mgt: return kMgtTables;
+    case Family::Tvct: return kTvctChannels;
     }
     return -1;
 }

@@ -5,6 +5,10 @@
 #include <cstring>
 #include <memory>
 
+#include <zum-platform/PlatformConfig.h>
+
+#include <zum-parser/atsc/MGTParser.h>
+#include <zum-parser/atsc/VCTParser.h>
 #include <zum-parser/core/Descriptor.h>
 #include <zum-parser/core/DescriptorHash.h>
 #include <zum-parser/dvb/DVBBATParser.h>
@@ -220,6 +224,45 @@ void DescriptorLoop(benchmark::State& state)
     RunPasses(state, table, [&](uint64_t) { benchmark::DoNotOptimize(decode()); });
 }
 
+// The PSIP tables are read as a North American receiver reads them: under an
+// ATSC country, which picks the PSIP descriptor factory.
+class AtscCountry {
+public:
+    AtscCountry() : m_saved(zum_platform::Binder().countryCode) { zum_platform::Binder().countryCode = ZumPackCode("USA"); }
+    ~AtscCountry() { zum_platform::Binder().countryCode = m_saved; }
+    AtscCountry(const AtscCountry&) = delete;
+    AtscCountry& operator=(const AtscCountry&) = delete;
+
+private:
+    ECountryCode m_saved;
+};
+
+void Mgt(benchmark::State& state)
+{
+    const AtscCountry country;
+    const Table& table = TableOf(Family::Mgt);
+    TCMGTParser parser(kHandle);
+    parser.Initialize();
+    if (!Prime(parser, table) || parser.NumOfTable() != static_cast<unsigned>(kMgtTables))
+        return state.SkipWithError("MGT not decoded");
+    // Per pass: a version change and 19 table entries with their (empty) loops.
+    RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
+}
+
+void Tvct(benchmark::State& state)
+{
+    const AtscCountry country;
+    const Table& table = TableOf(Family::Tvct);
+    TCTVCTParser parser(kHandle);
+    parser.Initialize();
+    if (!Prime(parser, table) || parser.NumOfVCTChannel() != static_cast<unsigned>(kTvctChannels) ||
+        parser.VCTChannel(0)->NumOfDescriptors(0xA0) != 1 || parser.VCTChannel(0)->NumOfDescriptors(0xA1) != 1)
+        return state.SkipWithError("TVCT not decoded");
+    // Per pass: a version change, eight channels, each with its long name read
+    // into a multiple string structure and its service location.
+    RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
+}
+
 } // namespace
 
 void RegisterZum(Family family)
@@ -237,6 +280,8 @@ void RegisterZum(Family family)
         Register(family, kZumRaw, [family](benchmark::State& state) { Eit(state, family, false); });
         break;
     case Family::DescriptorLoop: Register(family, kZum, DescriptorLoop); break;
+    case Family::Mgt: Register(family, kZum, Mgt); break;
+    case Family::Tvct: Register(family, kZum, Tvct); break;
     }
 }
 

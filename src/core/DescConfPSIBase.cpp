@@ -3,6 +3,7 @@
 #include <zum-platform/Binder.h>
 
 #include "DescExtension.h"
+#include "../atsc/DescExtendedChannelName.h"
 #include "../dvb/DescComponent.h"
 #include "../dvb/DescContent.h"
 #include "../dvb/DescLanguage.h"
@@ -95,6 +96,7 @@ TCBaseDesc* TCDescConfPsiISDB::NewDescriptor(int tag, const unsigned char* data,
 TCBaseDesc* TCDescConfPsiATSC::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
 {
     switch (tag) {
+    case 0xA3: return new TCDescComponentName();
     default: return TCDescConfPSIBase::NewDescriptor(tag, data, pds);
     }
 }

@@ -16,6 +16,7 @@
 #include "core/BaseDesc.h"
 #include "core/DescriptorContainer.h"
 #include "dvb/DescCAIdentifier.h"
+#include "inspect/AtscView.h"
 #include "dvb/DescComponent.h"
 #include "dvb/DescContent.h"
 #include "dvb/DescCountryAvailability.h"
@@ -503,6 +504,8 @@ Json DescribeDescriptor(const TCBaseDesc& desc, const TextDecoder& text)
     const auto describer = Describers().find(std::type_index(typeid(desc)));
     if (describer != Describers().end())
         out["fields"] = describer->second(desc, text);
+    else if (std::optional<Json> atsc = DescribeAtscDescriptor(desc))
+        out["fields"] = *atsc;
     else
         out["raw"] = RawHex(desc);
     return out;

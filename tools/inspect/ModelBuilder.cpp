@@ -11,6 +11,7 @@
 #include "dvb/DVBTDTParser.h"
 #include "dvb/DVBTOTParser.h"
 #include "dvb/DescService.h"
+#include "inspect/AtscView.h"
 #include "inspect/Describers.h"
 #include "inspect/EwsView.h"
 #include "inspect/Router.h"
@@ -89,6 +90,9 @@ std::string TableName(uint16_t pid, uint8_t tableId)
     case 0x73: return "TOT";
     case 0x74: return "AIT";
     case 0xD5: return "SIT";
+    case 0xC7: return "MGT";
+    case 0xC8: return "TVCT";
+    case 0xC9: return "CVCT";
     default: return "";
     }
 }
@@ -388,6 +392,7 @@ Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContex
             {"lcn", b.Lcn()},
             {"ews", EwsModel(router, b.text)},
             {"sit", DescribeSit(router.Sit(), b.text)},
+            {"atsc", DescribeAtsc(router.Atsc(), b.text)},
             {"summary", b.Summary()}};
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "inspect/EwsView.h"
+#include "inspect/AtscView.h"
 #include "inspect/Text.h"
 
 namespace zuminspect {
@@ -272,6 +273,11 @@ void RenderObject(const std::string& head, const Json& fields, int depth, std::o
     Tree(out).Object(depth, head, fields);
 }
 
+void RenderDescriptors(const Json& list, int depth, std::ostream& out)
+{
+    Tree(out).Descriptors(depth, list);
+}
+
 void RenderTree(const Json& model, std::ostream& out)
 {
     Tree tree(out);
@@ -288,6 +294,7 @@ void RenderTree(const Json& model, std::ostream& out)
     tree.Lcn(model["lcn"]);
     RenderEwsTree(model["ews"], out);
     tree.Sit(model["sit"]);
+    RenderAtscTree(model["atsc"], out);
     tree.Summary(model["summary"]);
 }
 

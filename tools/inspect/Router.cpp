@@ -12,6 +12,7 @@
 #include "dvb/DVBTDTParser.h"
 #include "dvb/DVBTOTParser.h"
 #include "inspect/TableIds.h"
+#include "inspect/AtscView.h"
 #include "inspect/TsDemux.h"
 #include "isdb/EWSParser.h"
 #include "program/SITParser.h"
@@ -59,7 +60,8 @@ bool AllValid(const Range& range, Valid valid)
 
 } // namespace
 
-Router::Router(const ZUMHandle& handle, bool allPids) : m_handle(handle), m_allPids(allPids), m_events(handle) {}
+Router::Router(const ZUMHandle& handle, bool allPids) : m_handle(handle), m_allPids(allPids), m_events(handle),
+      m_atsc(new AtscTables(handle)) {}
 
 Router::~Router() = default;
 
@@ -67,7 +69,7 @@ bool Router::Wants(uint16_t pid) const
 {
     return m_allPids || pid == kPidPat || pid == kPidCat || pid == kPidNit || pid == kPidSdt || pid == kPidEit ||
            pid == kPidTime || pid == kPidSit || pid == kNoPid || m_pmtPids.count(pid) > 0 || pid == m_networkPid ||
-           m_privateSectionPids.count(pid) > 0;
+           m_privateSectionPids.count(pid) > 0 || m_atsc->Wants(pid);
 }
 
 Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
@@ -163,6 +165,8 @@ void Router::OnSection(uint16_t pid, const uint8_t* section, size_t size)
 
     const Kind kind = m_KindOfSection(pid, section, size);
     TCSectionParser* parser = m_Parser(kind, tableId);
+    if (parser == nullptr)
+        parser = m_atsc->Parser(pid, tableId);
     if (parser == nullptr) {
         ++counts.noParser;
         ++m_noParser;
@@ -185,6 +189,8 @@ void Router::OnSection(uint16_t pid, const uint8_t* section, size_t size)
         m_LearnPrivateSectionPids();
     else if (kind == Kind::Ews)
         m_ewsPids.insert(pid);
+    else if (kind == Kind::None)
+        m_atsc->Parsed(pid, tableId);
 }
 
 void Router::m_LearnPrivateSectionPids()
@@ -227,7 +233,7 @@ std::string Router::ParserName(uint16_t pid, uint8_t tableId) const
     case Kind::Cat: return "TCDVBCATParser";
     case Kind::None: break;
     }
-    return std::string();
+    return m_atsc->ParserName(pid, tableId);
 }
 
 std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
@@ -278,7 +284,7 @@ std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
     case Kind::Cat: return m_cat && m_cat->IsValid();
     case Kind::None: break;
     }
-    return std::nullopt;
+    return m_atsc->Complete(pid, tableId);
 }
 
 } // namespace zuminspect

@@ -39,6 +39,10 @@ class TCDVBBATParser;
 class TCDVBCATParser;
 
 namespace zuminspect {
+class AtscTables;
+}
+
+namespace zuminspect {
 
 constexpr uint16_t kPidPat = 0x0000;
 constexpr uint16_t kPidCat = 0x0001;
@@ -95,6 +99,8 @@ public:
     const std::set<uint16_t>& EwsPids() const { return m_ewsPids; }
 
     const TCSITParser* Sit() const { return m_sit.get(); }
+    // The PSIP tables on the base PID, with an ATSC country.
+    const AtscTables& Atsc() const { return *m_atsc; }
 
 private:
     enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit, Bat, Cat };
@@ -130,6 +136,7 @@ private:
     std::set<uint16_t> m_privateSectionPids; // streams of type 0x05 in a PMT
     std::set<uint16_t> m_ewsPids;
     std::unique_ptr<TCSITParser> m_sit;
+    std::unique_ptr<AtscTables> m_atsc;
 
     // Without PIDs, the kind that sections of a shared table id went to.
     std::map<uint8_t, Kind> m_sharedKinds;
