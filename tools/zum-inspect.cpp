@@ -226,31 +226,24 @@ int main(int argc, char** argv)
         }
     }
     const zuminspect::Json model = zuminspect::FilterModel(whole, filter);
+    // What the view shows, and how the tree prints it.
+    zuminspect::Json shown;
+    void (*tree)(const zuminspect::Json&, std::ostream&) = zuminspect::RenderTree;
     switch (options->view) {
-    case View::Model:
-        if (options->json)
-            zuminspect::RenderJson(model, std::cout);
-        else
-            zuminspect::RenderTree(model, std::cout);
-        break;
-    case View::Summary:
-        if (options->json)
-            zuminspect::RenderJson(zuminspect::SummaryOnly(model), std::cout);
-        else
-            zuminspect::RenderTree(zuminspect::SummaryOnly(model), std::cout);
-        break;
+    case View::Model: shown = model; break;
+    case View::Summary: shown = zuminspect::SummaryOnly(model); break;
     case View::Services:
-        if (options->json)
-            zuminspect::RenderJson(zuminspect::ServiceList(model), std::cout);
-        else
-            zuminspect::RenderServiceLines(zuminspect::ServiceList(model), std::cout);
+        shown = zuminspect::ServiceList(model);
+        tree = zuminspect::RenderServiceLines;
         break;
     case View::Events:
-        if (options->json)
-            zuminspect::RenderJson(zuminspect::EventList(model), std::cout);
-        else
-            zuminspect::RenderEventLines(zuminspect::EventList(model), std::cout);
+        shown = zuminspect::EventList(model);
+        tree = zuminspect::RenderEventLines;
         break;
     }
+    if (options->json)
+        zuminspect::RenderJson(shown, std::cout);
+    else
+        tree(shown, std::cout);
     return std::cout.flush() ? 0 : 1;
 }

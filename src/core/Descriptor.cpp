@@ -296,9 +296,7 @@ TCDescConfBase* TCDescriptorKR::t_GetDescConf(unsigned char tableId)
 
 // ---------------------------------------------------------------- country switch
 
-namespace {
-
-bool IsISDBCountry(ECountryCode code)
+bool TCDescriptor::IsISDBCountry(ECountryCode code)
 {
     switch (code) {
     case ZumPackCode('A', 'R', 'G'):
@@ -313,8 +311,6 @@ bool IsISDBCountry(ECountryCode code)
     default: return false;
     }
 }
-
-} // namespace
 
 TCDescriptor::TCDescriptor(const ZUMHandle& handle) : m_handle(handle)
 {

@@ -4,6 +4,7 @@
 #include <memory>
 #include <variant>
 
+#include <zum-platform/Codes.h>
 #include <zum-platform/ZUMHandle.h>
 
 #include "DescriptorHash.h"
@@ -118,6 +119,8 @@ public:
     // The bounded walk of TCDescriptorBase.
     int ParseByCount(const unsigned char* data, int count, TCDescriptorHash& hash, unsigned char tableId, int limit);
     bool SetCachedPDSD(unsigned int pds);
+    // The countries whose loops are read as ISDB (beside Japan's own system).
+    static bool IsISDBCountry(ECountryCode code);
 
     TCDescriptor(const TCDescriptor&) = delete;
     TCDescriptor& operator=(const TCDescriptor&) = delete;

@@ -4,6 +4,8 @@
 #include <cctype>
 #include <cstdlib>
 
+#include "core/Descriptor.h"
+
 namespace zuminspect {
 
 namespace {
@@ -573,29 +575,13 @@ const Name kCaSystems[] = {
     {0x4A, "individually allocated"},  {0x56, "individually allocated"},
 };
 
-bool IsIsdbCountry(ECountryCode code)
-{
-    switch (code) {
-    case ZumPackCode('A', 'R', 'G'):
-    case ZumPackCode('B', 'O', 'L'):
-    case ZumPackCode('B', 'R', 'A'):
-    case ZumPackCode('C', 'H', 'L'):
-    case ZumPackCode('E', 'Q', 'U'):
-    case ZumPackCode('P', 'A', 'R'):
-    case ZumPackCode('P', 'E', 'R'):
-    case ZumPackCode('U', 'R', 'U'):
-    case ZumPackCode('c', 'r', 'i'): return true;
-    default: return false;
-    }
-}
-
 } // namespace
 
 BroadcastSystem SystemOf(ECountryCode country, unsigned int operatorId)
 {
     if (country == ZumPackCode('U', 'S', 'A') || country == ZumPackCode('K', 'O', 'R'))
         return BroadcastSystem::Atsc;
-    if (country == ZumPackCode('J', 'P', 'N') || IsIsdbCountry(country) ||
+    if (country == ZumPackCode('J', 'P', 'N') || TCDescriptor::IsISDBCountry(country) ||
         (country == ZumPackCode('P', 'H', 'L') && operatorId == 113))
         return BroadcastSystem::Isdb;
     return BroadcastSystem::Dvb;
