@@ -129,6 +129,8 @@ TEST(InspectNames, KnownValuesOfTheStandards)
         {TableIdName(0xC8, kAtsc), "TVCT"},
         {TableIdName(0xC8, kIsdb), "CDT"},
         {TableIdName(0xC8, kDvb), "user defined"},
+        {TableIdName(0xD5, kDvb), "SIT"},
+        {TableIdName(0x80, kIsdb), "emergency warning"},
     };
     for (size_t i = 0; i < cases.size(); ++i)
         EXPECT_EQ(cases[i].first, cases[i].second) << "case " << i;

@@ -74,6 +74,7 @@ const Name kIsdbTables[] = {
     {0x82, "ECM"},  {0x83, "ECM"},  {0x84, "EMM"},  {0x85, "EMM"},  {0x86, "DCT"},  {0x87, "DLT"},
     {0x88, "DLT"},  {0xC0, "DCT"},  {0xC1, "DLT"},  {0xC2, "PCAT"}, {0xC3, "SDTT"}, {0xC4, "BIT"},
     {0xC5, "NBIT information"},     {0xC6, "NBIT reference"},       {0xC7, "LDT"},  {0xC8, "CDT"},
+    {0x80, "emergency warning"},
 };
 
 // ATSC A/65 and the SCTE 65 out-of-band tables.
@@ -619,6 +620,9 @@ std::string TableIdName(unsigned int tableId, BroadcastSystem system, unsigned i
             return "LCN";
         if (system == BroadcastSystem::Dvb && tableId >= 0x80 && tableId <= 0x9F && (pid == 0x0012 || pid == kAnyPid))
             return "EIT compressed";
+        // The selection information of recorded streams.
+        if (tableId == 0xD5)
+            return "SIT";
     }
     if (tableId >= 0x08 && tableId <= 0x3F)
         return "reserved";
