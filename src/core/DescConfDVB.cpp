@@ -3,6 +3,8 @@
 #include <zum-platform/Binder.h>
 
 #include "DescExtension.h"
+#include "../av/DescAC3.h"
+#include "../av/DescMetadata.h"
 #include "../dvb/DescComponent.h"
 #include "../dvb/DescContent.h"
 #include "../dvb/DescCountryAvailability.h"
@@ -24,6 +26,7 @@ TCDescConfDVB::TCDescConfDVB(const ZUMHandle& handle) : m_handle(handle) {}
 TCBaseDesc* TCDescConfDVB::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
 {
     switch (tag) {
+    case 0x25: return new TCDescMetadataPointer();
     case 0x40: return new TCDescNetworkName();
     case 0x41: return new TCDescServiceList();
     case 0x43: return new TCDescSatelliteDeliverySystem(0x43);
@@ -43,6 +46,8 @@ TCBaseDesc* TCDescConfDVB::NewDescriptor(int tag, const unsigned char* data, uns
     case 0x5D: return new TCDescMultilingualServiceName();
     case 0x5F: return new TCDescPrivateDataSpecifier();
     case 0x62: return new TCDescFrequencyList();
+    case 0x6A: return new TCDescAC3();
+    case 0x7A: return new TCDescEnhancedAC3();
     case 0x7F: return TCDescExtension::ProcessExtensionDescriptor(data, pds);
     default: return t_ProcessPrivateDesc(tag, pds);
     }
