@@ -61,7 +61,7 @@ TEST(InspectDescribers, FieldsForKnownClassesRawForTheRest)
          "0x000022C6"},
         {zumtest::Desc(0x4A, {0x01}), "0x4A", "TCDescDefault", nullptr, "4a 01 01"},
         {zumtest::Desc(0x7F, {0x04, 0x00, 0x12, 0x34}), "0x7F04", "TCDescT2SystemDelivery", "/t2SystemId", 0x1234},
-        {zumtest::Desc(0x7F, {0x20, 0xAA}), "0x7F20", "TCDescExtension", nullptr, "7f 02 20 aa"},
+        {zumtest::Desc(0x7F, {0x17, 0xAA}), "0x7F17", "TCDescExtension", nullptr, "7f 02 17 aa"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.className);

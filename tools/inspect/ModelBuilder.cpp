@@ -10,6 +10,7 @@
 #include "dvb/DVBTDTParser.h"
 #include "dvb/DVBTOTParser.h"
 #include "dvb/DescService.h"
+#include "inspect/AvView.h"
 #include "inspect/Describers.h"
 #include "inspect/EwsView.h"
 #include "inspect/Router.h"
@@ -116,6 +117,7 @@ Json Builder::Pmts() const
             const TCPMTElementary* stream = program->PMTElementary(static_cast<unsigned>(k));
             streams.push_back({{"streamType", stream->StreamType()},
                                {"pid", stream->ElementaryPID()},
+                               {"summary", StreamSummary(stream->StreamType(), *stream)},
                                {"descriptors", DescribeLoop(*stream, text)}});
         }
         pmts.push_back({{"programNumber", program->ProgramNumber()},
