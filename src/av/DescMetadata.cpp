@@ -26,15 +26,7 @@ bool TakeCounted(TCByteReader& reader, const unsigned char*& at, int& length)
 
 // Steps shared by both descriptors: the format identification and the
 // service id. False when the body ends inside them.
-struct TTFormat {
-    unsigned short applicationFormat = 0;
-    unsigned int applicationFormatIdentifier = 0;
-    unsigned char metadataFormat = 0;
-    unsigned int metadataFormatIdentifier = 0;
-    unsigned char metadataServiceId = 0;
-};
-
-bool ReadFormat(TCByteReader& reader, TTFormat& format)
+bool ReadFormat(TCByteReader& reader, TTMetadataFormat& format)
 {
     if (!reader.Has(2))
         return false;
@@ -58,7 +50,7 @@ bool ReadFormat(TCByteReader& reader, TTFormat& format)
     return true;
 }
 
-bool IsOwnService(const TTFormat& format)
+bool IsOwnService(const TTMetadataFormat& format)
 {
     return format.applicationFormat == 0x0101 && format.metadataFormat == 0x3F && format.metadataServiceId == 0xFF;
 }
@@ -76,11 +68,7 @@ TCDescMetadata::~TCDescMetadata()
 
 void TCDescMetadata::DeleteAll()
 {
-    m_applicationFormat = 0;
-    m_applicationFormatIdentifier = 0;
-    m_metadataFormat = 0;
-    m_metadataFormatIdentifier = 0;
-    m_metadataServiceId = 0;
+    m_format = TTMetadataFormat();
     m_decoderConfigFlags = m_dsmccFlag = 0;
     m_serviceIdentificationRecord.clear();
     m_decoderConfig = TTRawRun();
@@ -97,13 +85,7 @@ int TCDescMetadata::t_Parse(const unsigned char* payload, unsigned char length)
 {
     DeleteAll();
     TCByteReader reader(payload, length);
-    TTFormat format;
-    const bool formatRead = ReadFormat(reader, format);
-    m_applicationFormat = format.applicationFormat;
-    m_applicationFormatIdentifier = format.applicationFormatIdentifier;
-    m_metadataFormat = format.metadataFormat;
-    m_metadataFormatIdentifier = format.metadataFormatIdentifier;
-    m_metadataServiceId = format.metadataServiceId;
+    const bool formatRead = ReadFormat(reader, m_format);
     // A field the body does not hold stops here, with the bytes left as the answer.
     if (!formatRead || !reader.Has(1))
         return reader.Left();
@@ -132,15 +114,14 @@ int TCDescMetadata::t_Parse(const unsigned char* payload, unsigned char length)
         case 4:
             if (reader.Left() == 0)
                 break;
-            m_metadataServiceId = static_cast<unsigned char>(reader.U8());
+            m_format.metadataServiceId = static_cast<unsigned char>(reader.U8());
             break;
         default: break;
         }
         if (reader.Left() > 0)
             m_privateData = zum_text::TakeRun<TTRawRun>(reader, payload, reader.Left());
     }
-    m_recognised = m_applicationFormat == 0x0101 && m_metadataFormat == 0x3F && m_metadataServiceId == 0xFF &&
-                   m_decoderConfigFlags == 0 && m_dsmccFlag;
+    m_recognised = IsOwnService(m_format) && m_decoderConfigFlags == 0 && m_dsmccFlag;
     return length;
 }
 
@@ -166,11 +147,7 @@ TCDescMetadataPointer::~TCDescMetadataPointer()
 
 void TCDescMetadataPointer::DeleteAll()
 {
-    m_applicationFormat = 0;
-    m_applicationFormatIdentifier = 0;
-    m_metadataFormat = 0;
-    m_metadataFormatIdentifier = 0;
-    m_metadataServiceId = 0;
+    m_format = TTMetadataFormat();
     m_mpegCarriageFlags = m_locatorRecordFlag = 0;
     m_locatorRecord = TTRawRun();
     m_key = TCServiceKey();
@@ -187,13 +164,7 @@ int TCDescMetadataPointer::t_Parse(const unsigned char* payload, unsigned char l
 {
     DeleteAll();
     TCByteReader reader(payload, length);
-    TTFormat format;
-    const bool formatRead = ReadFormat(reader, format);
-    m_applicationFormat = format.applicationFormat;
-    m_applicationFormatIdentifier = format.applicationFormatIdentifier;
-    m_metadataFormat = format.metadataFormat;
-    m_metadataFormatIdentifier = format.metadataFormatIdentifier;
-    m_metadataServiceId = format.metadataServiceId;
+    const bool formatRead = ReadFormat(reader, m_format);
     if (!formatRead || !reader.Has(1))
         return 0;
     const unsigned int flags = reader.U8();
@@ -221,7 +192,7 @@ int TCDescMetadataPointer::t_Parse(const unsigned char* payload, unsigned char l
     }
     if (reader.Left() > 0)
         m_privateData.assign(reinterpret_cast<const char*>(reader.Here()), static_cast<size_t>(reader.Left()));
-    m_recognised = IsOwnService(format) && !m_locatorRecordFlag;
+    m_recognised = IsOwnService(m_format) && !m_locatorRecordFlag;
     return length;
 }
 

@@ -12,6 +12,15 @@
 // data of a metadata descriptor. A descriptor is "recognised" when it names
 // the receiver's own metadata service (format 0x0101, 0x3F, service 0xFF).
 
+// The identification that both descriptors open with.
+struct TTMetadataFormat {
+    unsigned short applicationFormat = 0;
+    unsigned int applicationFormatIdentifier = 0;
+    unsigned char metadataFormat = 0;
+    unsigned int metadataFormatIdentifier = 0;
+    unsigned char metadataServiceId = 0;
+};
+
 // metadata_descriptor (0x26).
 class ZUM_EXPORT TCDescMetadata : public TCBaseDesc {
 public:
@@ -20,11 +29,11 @@ public:
     void DeleteAll() override;
     TCBaseDesc* Fork() const override;
 
-    unsigned short ApplicationFormat() const { return m_applicationFormat; }
-    unsigned int ApplicationFormatIdentifier() const { return m_applicationFormatIdentifier; }
-    unsigned char MetadataFormat() const { return m_metadataFormat; }
-    unsigned int MetadataFormatIdentifier() const { return m_metadataFormatIdentifier; }
-    unsigned char MetadataServiceId() const { return m_metadataServiceId; }
+    unsigned short ApplicationFormat() const { return m_format.applicationFormat; }
+    unsigned int ApplicationFormatIdentifier() const { return m_format.applicationFormatIdentifier; }
+    unsigned char MetadataFormat() const { return m_format.metadataFormat; }
+    unsigned int MetadataFormatIdentifier() const { return m_format.metadataFormatIdentifier; }
+    unsigned char MetadataServiceId() const { return m_format.metadataServiceId; }
     unsigned char DecoderConfigFlags() const { return m_decoderConfigFlags; }
     unsigned char DSMCCFlag() const { return m_dsmccFlag; }
     std::string DecoderConfig() const { return m_RunText(m_decoderConfig); }
@@ -39,11 +48,7 @@ protected:
 private:
     std::string m_RunText(TTRawRun run) const;
 
-    unsigned short m_applicationFormat = 0;
-    unsigned int m_applicationFormatIdentifier = 0;
-    unsigned char m_metadataFormat = 0;
-    unsigned int m_metadataFormatIdentifier = 0;
-    unsigned char m_metadataServiceId = 0;
+    TTMetadataFormat m_format;
     unsigned char m_decoderConfigFlags = 0;
     unsigned char m_dsmccFlag = 0;
     // Handed out by reference, so held as a string.
@@ -61,11 +66,11 @@ public:
     void DeleteAll() override;
     TCBaseDesc* Fork() const override;
 
-    unsigned short ApplicationFormat() const { return m_applicationFormat; }
-    unsigned int ApplicationFormatIdentifier() const { return m_applicationFormatIdentifier; }
-    unsigned char MetadataFormat() const { return m_metadataFormat; }
-    unsigned int MetadataFormatIdentifier() const { return m_metadataFormatIdentifier; }
-    unsigned char MetadataServiceId() const { return m_metadataServiceId; }
+    unsigned short ApplicationFormat() const { return m_format.applicationFormat; }
+    unsigned int ApplicationFormatIdentifier() const { return m_format.applicationFormatIdentifier; }
+    unsigned char MetadataFormat() const { return m_format.metadataFormat; }
+    unsigned int MetadataFormatIdentifier() const { return m_format.metadataFormatIdentifier; }
+    unsigned char MetadataServiceId() const { return m_format.metadataServiceId; }
     unsigned char MPEGCarriageFlags() const { return m_mpegCarriageFlags; }
     unsigned char LocatorRecordFlag() const { return m_locatorRecordFlag; }
     bool Recognised() const { return m_recognised; }
@@ -79,11 +84,7 @@ protected:
     int t_Parse(const unsigned char* payload, unsigned char length) override;
 
 private:
-    unsigned short m_applicationFormat = 0;
-    unsigned int m_applicationFormatIdentifier = 0;
-    unsigned char m_metadataFormat = 0;
-    unsigned int m_metadataFormatIdentifier = 0;
-    unsigned char m_metadataServiceId = 0;
+    TTMetadataFormat m_format;
     unsigned char m_mpegCarriageFlags = 0;
     unsigned char m_locatorRecordFlag = 0;
     TTRawRun m_locatorRecord;
