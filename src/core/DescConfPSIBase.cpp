@@ -3,6 +3,7 @@
 #include <zum-platform/Binder.h>
 
 #include "DescExtension.h"
+#include "../atsc/DescExtendedChannelName.h"
 #include "../av/DescAACAudio.h"
 #include "../av/DescAC3.h"
 #include "../av/DescAVCVideo.h"
@@ -11,19 +12,23 @@
 #include "../dvb/DescComponent.h"
 #include "../dvb/DescContent.h"
 #include "../dvb/DescLanguage.h"
+#include "../dvb/DescLinkage.h"
 #include "../dvb/DescPrivateDataSpecifier.h"
 #include "../dvb/DescServiceMove.h"
 #include "../isdb/DescEmergencyInformation.h"
 #include "PrivateTag.h"
+#include "../psi/DescCA.h"
 
 TCBaseDesc* TCDescConfPSIBase::NewDescriptor(int tag, const unsigned char* /*data*/, unsigned int /*pds*/)
 {
     switch (tag) {
+    case 0x09: return new TCDescCA();
     case 0x0A: return new TCDescLanguage();
     case 0x1C: return new TCDescMpeg4Audio();
     case 0x24: return new TCDescContentLabeling();
-    case 0x88: return new TCDescDTCP();
     case 0x52: return new TCDescStreamIdentifier();
+    case 0x66: return new TCDescDataBroadcastId();
+    case 0x88: return new TCDescDTCP();
     default: return new TCDescDefault(tag);
     }
 }
@@ -36,13 +41,13 @@ TCBaseDesc* TCDescConfPsiDVB::NewDescriptor(int tag, const unsigned char* data, 
     case 0x05: return new TCDescDRARegistration();
     case 0x26: return new TCDescMetadata();
     case 0x28: return new TCDescAVCVideo();
-    case 0x6A: return new TCDescAC3();
-    case 0x7A: return new TCDescEnhancedAC3();
-    case 0x7C: return new TCDescAACAudio();
     case 0x56: return new TCDescTeletext();
     case 0x59: return new TCDescSubtitling();
     case 0x5F: return new TCDescPrivateDataSpecifier();
     case 0x60: return new TCDescServiceMove();
+    case 0x6A: return new TCDescAC3();
+    case 0x7A: return new TCDescEnhancedAC3();
+    case 0x7C: return new TCDescAACAudio();
     // Program tables carry no specifier into extensions: the 0xA3 row needs the SI factory.
     case 0x7F: return TCDescExtension::ProcessExtensionDescriptor(data, 0xFFFFFFFF);
     case 0x98:
@@ -110,6 +115,7 @@ TCBaseDesc* TCDescConfPsiATSC::NewDescriptor(int tag, const unsigned char* data,
     case 0x36: return new TCDescStereoScopicVideoInfo();
     case 0x6A: return new TCDescAC3();
     case 0x81: return new TCDescAC3Audio();
+    case 0xA3: return new TCDescComponentName();
     case 0xCC: return new TCDescATSCEnhancedAC3();
     default: return TCDescConfPSIBase::NewDescriptor(tag, data, pds);
     }

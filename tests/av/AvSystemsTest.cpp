@@ -116,7 +116,7 @@ TEST(AvSystems, StreamSummaries)
         {"DEU", 0x11, Desc(0x7C, {0x51, 0x80, 0x03}), "AAC-LC stereo"},
         {"USA", 0x81, Desc(0x81, {0x48, 0x30, 0x0E, 'e', 0x40, 0x00, 0x80, 's', 'p', 'a'}), "AC-3 5.1 spa"},
         {"DEU", 0x06, Desc(0x7F, {0x20, 'f', 'r', 'a', 0x00, 0x00, 0x00}), "TTML subtitles fra"},
-        {"DEU", 0x04, {}, "MPEG-2 audio"},
+        {"DEU", 0x04, Desc(0x0A, {'f', 'r', 'a', 0}), "fra"},
         {"DEU", 0x05, {}, ""},
     };
     for (const Case& c : cases) {

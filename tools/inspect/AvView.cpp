@@ -109,13 +109,8 @@ std::string VideoSummary(int streamType, const IDescriptorContainer& loop)
     }
     if (const TCDescAVCVideo* avc = First<TCDescAVCVideo>(loop, 0x28))
         return Joined({"AVC", AvcProfile(avc->ProfileIdc()), LinesOfLevel(avc->LevelIdc(), true)});
-    switch (streamType) {
-    case 0x01: return "MPEG-1 video";
-    case 0x02: return "MPEG-2 video";
-    case 0x1B: return "AVC";
-    case 0x24: return "HEVC";
-    default: return "";
-    }
+    // The stream type alone is named beside the stream already.
+    return "";
 }
 
 // ---- audio ---------------------------------------------------------------------
@@ -193,17 +188,8 @@ std::string AudioSummary(int streamType, const IDescriptorContainer& loop)
     if (const TCDescDRAAudioStream* dra = First<TCDescDRAAudioStream>(loop, 0xA0))
         return Joined({"DRA", std::to_string(dra->NormalChannels()) + "." + std::to_string(dra->LFEChannels()),
                        language});
-    const char* codec = nullptr;
-    switch (streamType) {
-    case 0x03: codec = "MPEG-1 audio"; break;
-    case 0x04: codec = "MPEG-2 audio"; break;
-    case 0x0F: codec = "AAC"; break;
-    case 0x11: codec = "AAC (LATM)"; break;
-    case 0x81: codec = "AC-3"; break;
-    case 0x87: codec = "E-AC-3"; break;
-    default: break;
-    }
-    return codec ? Joined({codec, language}) : "";
+    // The stream type alone is named beside the stream already: the language is what is left to say.
+    return language;
 }
 
 // ---- describers ----------------------------------------------------------------

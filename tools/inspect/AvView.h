@@ -14,8 +14,8 @@ class IDescriptorContainer;
 
 namespace zuminspect {
 
-// What the stream type and the stream's descriptors say of its content;
-// empty when they say nothing.
+// What the stream's descriptors say of its content beyond the stream type's
+// name; empty when they say nothing more.
 std::string StreamSummary(int streamType, const IDescriptorContainer& loop);
 
 // The fields of an audio or video component descriptor; null for a class
