@@ -33,7 +33,8 @@ inline void ReadAv(TCBaseDesc* desc, volatile unsigned int& sink)
         Copies(*d, &TCDescEnhancedAC3::GetAdditionalInfo, sink);
     if (auto* d = dynamic_cast<TCDescATSCEnhancedAC3*>(desc))
         Copies(*d, &TCDescATSCEnhancedAC3::GetAdditionalInfo, sink);
-    if (auto* d = dynamic_cast<TCDescAC3Audio*>(desc)) {
+    // Without a main id these accessors assert, which a debug image stops on.
+    if (auto* d = dynamic_cast<TCDescAC3Audio*>(desc); d && d->Mainid() != TCDescAC3Audio::INVALID) {
         Copies(*d, &TCDescAC3Audio::GetAdditionalInfo, sink);
         Copies(*d, &TCDescAC3Audio::GetText, sink);
     }
