@@ -3,6 +3,7 @@
 #include <zum-platform/Binder.h>
 
 #include "DescExtension.h"
+#include "../apps/DescApplicationSignalling.h"
 #include "../dvb/DescComponent.h"
 #include "../dvb/DescContent.h"
 #include "../dvb/DescLanguage.h"
@@ -30,6 +31,7 @@ TCBaseDesc* TCDescConfPsiDVB::NewDescriptor(int tag, const unsigned char* data, 
     case 0x59: return new TCDescSubtitling();
     case 0x5F: return new TCDescPrivateDataSpecifier();
     case 0x60: return new TCDescServiceMove();
+    case 0x6F: return new TCDescApplicationSignalling();
     case 0x7F: return TCDescExtension::ProcessExtensionDescriptor(data, 0xFFFFFFFF);
     case 0x98:
     case 0xA0:
