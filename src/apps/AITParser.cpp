@@ -1,6 +1,7 @@
 #include "AITParser.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "../core/ByteReader.h"
 #include "../core/Descriptor.h"
@@ -168,6 +169,13 @@ TCAitInstance* TCAITParser::GetInstance(unsigned short type) const
 {
     const auto it = m_instances.find(type);
     return it == m_instances.end() ? nullptr : it->second.get();
+}
+
+TCAitInstance* TCAITParser::AITInstanceOfIndex(unsigned int index) const
+{
+    if (index >= m_instances.size())
+        return nullptr;
+    return std::next(m_instances.begin(), index)->second.get();
 }
 
 TCAITParser& TCAITParser::operator=(const TCAITParser& other)

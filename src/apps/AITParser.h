@@ -87,6 +87,8 @@ public:
     TCAitInstance* GetInstance(unsigned short type) const;
     TCAitInstance* AITInstance(unsigned short type) const { return GetInstance(type); }
     int NumOfAITInstance() const { return static_cast<int>(m_instances.size()); }
+    // In order of application type; null past the end.
+    TCAitInstance* AITInstanceOfIndex(unsigned int index) const;
 
     // DeleteAll, then a deep copy of each instance of `other`.
     virtual TCAITParser& operator=(const TCAITParser& other);

@@ -11,6 +11,7 @@
 #include "dvb/DVBTOTParser.h"
 #include "dvb/DescService.h"
 #include "inspect/Describers.h"
+#include "inspect/AitView.h"
 #include "inspect/EwsView.h"
 #include "inspect/Router.h"
 #include "inspect/SitView.h"
@@ -354,6 +355,7 @@ Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContex
             {"lcn", b.Lcn()},
             {"ews", EwsModel(router, b.text)},
             {"sit", DescribeSit(router.Sit(), b.text)},
+            {"ait", AitModel(router, b.text)},
             {"summary", b.Summary()}};
 }
 

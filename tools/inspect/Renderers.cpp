@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <string>
 
+#include "inspect/AitView.h"
 #include "inspect/EwsView.h"
 #include "inspect/Text.h"
 
@@ -264,6 +265,7 @@ void RenderTree(const Json& model, std::ostream& out)
     tree.Lcn(model["lcn"]);
     RenderEwsTree(model["ews"], out);
     tree.Sit(model["sit"]);
+    RenderAitTree(model["ait"], out);
     tree.Summary(model["summary"]);
 }
 
