@@ -2,6 +2,7 @@
 
 #include "../apps/DescApplication.h"
 #include "../apps/DescTransportProtocol.h"
+#include "../atsc/DescExtendedChannelName.h"
 #include "../dvb/DescContent.h"
 
 TCBaseDesc* TCDescConfDS::NewDescriptor(int tag, const unsigned char* /*data*/, unsigned int /*pds*/)
@@ -23,6 +24,7 @@ TCBaseDesc* TCDescConfDS::NewDescriptor(int tag, const unsigned char* /*data*/, 
     case 0xAF: return new TCDescUnboundApplication(tag);
     case 0x69:
     case 0xB0: return new TCDescApplicationStorage(tag);
+    case 0xA3: return new TCDescComponentName();
     default: return new TCDescDefault(tag);
     }
 }

@@ -36,10 +36,17 @@ class TCDVBLCNParser;
 class TCEWSParser;
 class TCSITParser;
 class TCAITParser;
+class TCDVBBATParser;
+class TCDVBCATParser;
+
+namespace zuminspect {
+class AtscTables;
+}
 
 namespace zuminspect {
 
 constexpr uint16_t kPidPat = 0x0000;
+constexpr uint16_t kPidCat = 0x0001;
 constexpr uint16_t kPidNit = 0x0010;
 constexpr uint16_t kPidSdt = 0x0011;
 constexpr uint16_t kPidEit = 0x0012;
@@ -86,6 +93,8 @@ public:
     const TCDVBTOTParser* Tot() const { return m_tot.get(); }
     const TCDVBLCNParser* Lcn() const { return m_lcn.get(); }
     const std::set<uint16_t>& LcnPids() const { return m_lcnPids; }
+    const TCDVBBATParser* Bat() const { return m_bat.get(); }
+    const TCDVBCATParser* Cat() const { return m_cat.get(); }
     const EitCollector& Events() const { return m_events; }
     const TCEWSParser* Ews() const { return m_ews.get(); }
     const std::set<uint16_t>& EwsPids() const { return m_ewsPids; }
@@ -94,8 +103,11 @@ public:
     // One AIT parser per announced AIT PID (kNoPid for a file of sections).
     const std::map<uint16_t, std::unique_ptr<TCAITParser>>& Aits() const { return m_aits; }
 
+    // The PSIP tables on the base PID, with an ATSC country.
+    const AtscTables& Atsc() const { return *m_atsc; }
+
 private:
-    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit, Ait };
+    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit, Bat, Cat, Ait };
 
     Kind m_KindOf(uint16_t pid, uint8_t tableId) const;
     // As above, deciding a shared table id of a file of sections by country and section shape.
@@ -120,6 +132,8 @@ private:
     std::unique_ptr<TCDVBTOTParser> m_tot;
     std::unique_ptr<TCDVBLCNParser> m_lcn;
     std::set<uint16_t> m_lcnPids;
+    std::unique_ptr<TCDVBBATParser> m_bat;
+    std::unique_ptr<TCDVBCATParser> m_cat;
     std::set<uint8_t> m_timeTablesTaken;
     EitCollector m_events;
     std::unique_ptr<TCEWSParser> m_ews;
@@ -129,6 +143,7 @@ private:
     // Streams of type 0x05 whose PMT entry has an application signalling descriptor.
     std::set<uint16_t> m_aitPids;
     std::map<uint16_t, std::unique_ptr<TCAITParser>> m_aits;
+    std::unique_ptr<AtscTables> m_atsc;
 
     // Without PIDs, the kind that sections of a shared table id went to.
     std::map<uint8_t, Kind> m_sharedKinds;
