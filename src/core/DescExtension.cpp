@@ -1,5 +1,7 @@
 #include "DescExtension.h"
 
+#include "../av/DescAC4.h"
+#include "../av/DescAPD.h"
 #include "../dvb/DescT2SystemDelivery.h"
 
 TCDescExtension::TCDescExtension() : TCBaseDesc(0x7F) {}
@@ -33,6 +35,8 @@ TCBaseDesc* TCDescExtension::ProcessExtensionDescriptor(const unsigned char* dat
     // Extensions without a class of their own stay plain TCDescExtension objects.
     switch (data[2]) {
     case 0x04: return new TCDescT2SystemDelivery();
+    case 0x15: return new TCDescAC4();
+    case 0x19: return new TCDescAPD();
     default: return new TCDescExtension();
     }
 }
