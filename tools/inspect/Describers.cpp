@@ -29,7 +29,10 @@
 #include "dvb/DescServiceMove.h"
 #include "dvb/DescShortEvent.h"
 #include "dvb/DescT2SystemDelivery.h"
+#include "inspect/AudioView.h"
 #include "inspect/EwsView.h"
+#include "av/DescAC4.h"
+#include "av/DescAPD.h"
 #include "isdb/DescEmergencyInformation.h"
 #include "operators/DescLogicalChannel.h"
 #include "operators/DescLogicalChannelV2.h"
@@ -458,6 +461,8 @@ DescriberTable MakeTable()
     Register<TCDescLogicalChannel>(t, LogicalChannel);
     Register<TCDescLogicalChannelV2>(t, LogicalChannelV2);
     Register<TCDescEmergencyInformation>(t, DescribeEmergencyInformation);
+    Register<TCDescAC4>(t, DescribeAC4);
+    Register<TCDescAPD>(t, DescribeAPD);
     return t;
 }
 
