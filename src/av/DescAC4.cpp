@@ -166,27 +166,19 @@ void TCDescAC4::m_ac4_dsi(int length, unsigned char* data)
             emdf = true;
         } else {
             Skip(position, 8);
-            if (read_bits(length, data, position, 1))
-                presentation.SetPresentationId(static_cast<unsigned char>(read_bits(length, data, position, 5)));
+            m_ReadPresentationId(length, data, presentation, position);
             Skip(position, 17);
             if (singleSubstream == 1) {
                 m_ac4_substream_dsi(length, data, presentation, position);
             } else {
                 Skip(position, 1);
-                if (config < 3)
-                    m_SubstreamWalks(2, length, data, presentation, position);
-                else if (config <= 4)
-                    m_SubstreamWalks(3, length, data, presentation, position);
-                else if (config == 5)
-                    m_SubstreamWalks(1, length, data, presentation, position);
-                else
-                    Skip(position, static_cast<int>(read_bits(length, data, position, 7)) * 8);
+                m_WalksByConfig(config, &TCDescAC4::m_ac4_substream_dsi, length, data, presentation, position);
                 Skip(position, 1);
                 emdf = read_bits(length, data, position, 1) != 0;
             }
         }
         if (emdf)
-            Skip(position, static_cast<int>(read_bits(length, data, position, 7)) * 15);
+            m_SkipCounted(length, data, position, 7, 15);
         if (presentation.HasId())
             m_presentations.push_back(presentation);
         align_bit_pos_to_byte(position);
@@ -201,27 +193,19 @@ int TCDescAC4::m_ac4_presentation_v0_dsi(int length, unsigned char* data, TCAC4P
     bool emdf = true;
     if (config != 6) {
         Skip(position, 3);
-        if (read_bits(length, data, position, 1))
-            presentation.SetPresentationId(static_cast<unsigned char>(read_bits(length, data, position, 5)));
+        m_ReadPresentationId(length, data, presentation, position);
         if (config == 31) {
             Skip(position, 41);
             m_ac4_substream_dsi(length, data, presentation, position);
         } else {
             Skip(position, 42);
-            if (config < 3)
-                m_SubstreamWalks(2, length, data, presentation, position);
-            else if (config <= 4)
-                m_SubstreamWalks(3, length, data, presentation, position);
-            else if (config == 5)
-                m_SubstreamWalks(1, length, data, presentation, position);
-            else
-                Skip(position, static_cast<int>(read_bits(length, data, position, 7)) * 8);
+            m_WalksByConfig(config, &TCDescAC4::m_ac4_substream_dsi, length, data, presentation, position);
         }
         Skip(position, 1);
         emdf = read_bits(length, data, position, 1) != 0;
     }
     if (emdf)
-        Skip(position, static_cast<int>(read_bits(length, data, position, 7)) * 15);
+        m_SkipCounted(length, data, position, 7, 15);
     align_bit_pos_to_byte(position);
     return (position - start) / 8;
 }
@@ -237,11 +221,34 @@ void TCDescAC4::m_ac4_substream_dsi(int length, unsigned char* data, TCAC4Presen
     m_content_lang_desc(length, data, presentation, position);
 }
 
-void TCDescAC4::m_SubstreamWalks(int count, int length, unsigned char* data, TCAC4Presentation& presentation,
-                                 int& position)
+void TCDescAC4::m_WalksByConfig(unsigned int config, TTWalk walk, int length, unsigned char* data,
+                                TCAC4Presentation& presentation, int& position)
 {
+    int count = 0;
+    if (config < 3)
+        count = 2;
+    else if (config <= 4)
+        count = 3;
+    else if (config == 5)
+        // A group presentation of config 5 counts its groups; a substream one has one.
+        count = walk == &TCDescAC4::m_ac4_substream_group_dsi ? static_cast<int>(read_bits(length, data, position, 3)) + 2
+                                                               : 1;
+    else
+        m_SkipCounted(length, data, position, 7, 8);
     for (int i = 0; i < count; ++i)
-        m_ac4_substream_dsi(length, data, presentation, position);
+        (this->*walk)(length, data, presentation, position);
+}
+
+void TCDescAC4::m_ReadPresentationId(int length, unsigned char* data, TCAC4Presentation& presentation,
+                                     int& position)
+{
+    if (read_bits(length, data, position, 1))
+        presentation.SetPresentationId(static_cast<unsigned char>(read_bits(length, data, position, 5)));
+}
+
+void TCDescAC4::m_SkipCounted(int length, unsigned char* data, int& position, int countBits, int unitBits)
+{
+    Skip(position, static_cast<int>(read_bits(length, data, position, countBits)) * unitBits);
 }
 
 void TCDescAC4::m_content_lang_desc(int length, unsigned char* data, TCAC4Presentation& presentation,
@@ -305,8 +312,7 @@ int TCDescAC4::m_ac4_presentation_v1_dsi(int length, unsigned char* data, TCAC4P
     bool emdf = true;
     if (config != 6) {
         Skip(position, 3);
-        if (read_bits(length, data, position, 1))
-            presentation.SetPresentationId(static_cast<unsigned char>(read_bits(length, data, position, 5)));
+        m_ReadPresentationId(length, data, presentation, position);
         Skip(position, 19);
         if (read_bits(length, data, position, 1)) {
             const unsigned int v = read_bits(length, data, position, 5);
@@ -318,27 +324,19 @@ int TCDescAC4::m_ac4_presentation_v1_dsi(int length, unsigned char* data, TCAC4P
             Skip(position, 2);
         if (read_bits(length, data, position, 1)) {
             Skip(position, 1);
-            Skip(position, static_cast<int>(read_bits(length, data, position, 8)) * 8);
+            m_SkipCounted(length, data, position, 8, 8);
         }
         if (config == 31) {
             m_ac4_substream_group_dsi(length, data, presentation, position);
         } else {
             Skip(position, 1);
-            if (config < 3)
-                m_GroupWalks(2, length, data, presentation, position);
-            else if (config <= 4)
-                m_GroupWalks(3, length, data, presentation, position);
-            else if (config == 5)
-                m_GroupWalks(static_cast<int>(read_bits(length, data, position, 3)) + 2, length, data, presentation,
-                             position);
-            else
-                Skip(position, static_cast<int>(read_bits(length, data, position, 7)) * 8);
+            m_WalksByConfig(config, &TCDescAC4::m_ac4_substream_group_dsi, length, data, presentation, position);
         }
         Skip(position, 1);
         emdf = read_bits(length, data, position, 1) != 0;
     }
     if (emdf)
-        Skip(position, static_cast<int>(read_bits(length, data, position, 7)) * 15);
+        m_SkipCounted(length, data, position, 7, 15);
     if (read_bits(length, data, position, 1))
         m_ac4_bitrate_dsi(position);
     if (read_bits(length, data, position, 1)) {
@@ -372,13 +370,6 @@ void TCDescAC4::m_ac4_substream_group_dsi(int length, unsigned char* data, TCAC4
         }
     }
     m_content_lang_desc(length, data, presentation, position);
-}
-
-void TCDescAC4::m_GroupWalks(int count, int length, unsigned char* data, TCAC4Presentation& presentation,
-                             int& position)
-{
-    for (int i = 0; i < count; ++i)
-        m_ac4_substream_group_dsi(length, data, presentation, position);
 }
 
 void TCDescAC4::m_ac4_alternative_info(int length, unsigned char* data, int& position)

@@ -85,9 +85,15 @@ protected:
     int t_Parse(const unsigned char* payload, unsigned char length) override;
 
 private:
-    void m_SubstreamWalks(int count, int length, unsigned char* data, TCAC4Presentation& presentation,
-                          int& position);
-    void m_GroupWalks(int count, int length, unsigned char* data, TCAC4Presentation& presentation, int& position);
+    using TTWalk = void (TCDescAC4::*)(int, unsigned char*, TCAC4Presentation&, int&);
+    // The substream or group walks that presentation_config calls for; above 5 a counted run is passed over.
+    void m_WalksByConfig(unsigned int config, TTWalk walk, int length, unsigned char* data,
+                         TCAC4Presentation& presentation, int& position);
+    // b_presentation_id and the id behind it.
+    static void m_ReadPresentationId(int length, unsigned char* data, TCAC4Presentation& presentation,
+                                     int& position);
+    // Passes over a count of `countBits` times `unitBits`.
+    static void m_SkipCounted(int length, unsigned char* data, int& position, int countBits, int unitBits);
 
     unsigned char m_configFlag = 0;
     unsigned char m_tocFlag = 0;
