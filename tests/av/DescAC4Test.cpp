@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "av/DescAC4.h"
+#include "av/DescAPD.h"
 #include "dvb/DescLoopProbe.h"
 
 using namespace svctest;
@@ -25,25 +26,10 @@ public:
         }
         return *this;
     }
-    BitWriter& Zeros(int bits)
-    {
-        for (int i = 0; i < bits; ++i)
-            Put(0, 1);
-        return *this;
-    }
+    BitWriter& Zeros(int bits) { return bits > 0 ? Put(0, 1).Zeros(bits - 1) : *this; }
     BitWriter& Align() { return Zeros((8 - m_bit % 8) % 8); }
-    BitWriter& Text(const std::string& text)
-    {
-        for (char c : text)
-            Put(static_cast<unsigned char>(c), 8);
-        return *this;
-    }
-    BitWriter& Bytes(const Bytes& bytes)
-    {
-        for (unsigned char b : bytes)
-            Put(b, 8);
-        return *this;
-    }
+    template <class Chars>
+    BitWriter& Text(const Chars& chars) { for (auto c : chars) Put(static_cast<unsigned char>(c), 8); return *this; }
     const zumtest::Bytes& Data() const { return m_bytes; }
 
 private:
@@ -145,28 +131,24 @@ TEST(DescAC4, ReadBitsBoundsAndMessages)
     EXPECT_EQ(TCDescAC4::read_bits(2, data, position, 4), 0xAu);
     EXPECT_EQ(TCDescAC4::read_bits(2, data, position, 12), 0x50Fu);
     EXPECT_EQ(position, 16);
-    const struct {
-        int position;
-        int count;
-        const char* message;
-    } kFailures[] = {
-        {-1, 1, "Out of range Bits -index dataByteLen=2, bitIndex=-1, bitCount=1"},
-        {0, 0, "Bits nothing to readdataByteLen=2, bitIndex=0, bitCount=0"},
-        {10, 7, "Out of range Bits index+bitCount to highdataByteLen=2, bitIndex=10, bitCount=7"},
+    // What each call threw, and the position after it; a failed read leaves it.
+    const std::vector<std::pair<std::pair<int, int>, std::string>> kCases = {
+        {{-1, 1}, "Out of range Bits -index dataByteLen=2, bitIndex=-1, bitCount=1 @-1"},
+        {{0, 0}, "Bits nothing to readdataByteLen=2, bitIndex=0, bitCount=0 @0"},
+        {{10, 7}, "Out of range Bits index+bitCount to highdataByteLen=2, bitIndex=10, bitCount=7 @10"},
+        {{13, 3}, " @16"},
     };
-    for (const auto& f : kFailures) {
-        int at = f.position;
+    for (const auto& c : kCases) {
+        int at = c.first.first;
+        std::string message;
         try {
-            TCDescAC4::read_bits(2, data, at, f.count);
-            ADD_FAILURE() << f.message;
+            TCDescAC4::read_bits(2, data, at, c.first.second);
         } catch (const std::out_of_range& e) {
-            EXPECT_STREQ(e.what(), f.message);
-            EXPECT_EQ(at, f.position);
+            message = e.what();
         }
+        EXPECT_EQ(message + " @" + std::to_string(at), c.second);
     }
     position = 13;
-    TCDescAC4::align_bit_pos_to_byte(position);
-    EXPECT_EQ(position, 16);
     TCDescAC4::align_bit_pos_to_byte(position);
     EXPECT_EQ(position, 16);
 }
@@ -220,11 +202,11 @@ TEST(DescAC4, DsiVersion1)
 
     BitWriter w;
     w.Put(1, 3).Put(2, 7).Zeros(5).Put(4, 9).Put(1, 1).Put(0xBEEF, 16).Put(0, 1).Zeros(66).Align();
-    w.Put(1, 8).Put(a.Data().size() + 2, 8).Bytes(a.Data()).Put(0x3F, 6).Put(1, 1).Zeros(9);
+    w.Put(1, 8).Put(a.Data().size() + 2, 8).Text(a.Data()).Put(0x3F, 6).Put(1, 1).Zeros(9);
     // Unknown version, 255 + 1 bytes, passed over.
-    w.Put(7, 8).Put(255, 8).Put(1, 16).Bytes(zumtest::Bytes(256, 0xFF));
+    w.Put(7, 8).Put(255, 8).Put(1, 16).Text(zumtest::Bytes(256, 0xFF));
     // Two bytes more than the presentation reads.
-    w.Put(0, 8).Put(c.Data().size() + 2, 8).Bytes(c.Data()).Put(0xFFFF, 16);
+    w.Put(0, 8).Put(c.Data().size() + 2, 8).Text(c.Data()).Put(0xFFFF, 16);
     // A presentation without id is dropped, whatever its language.
     w.Put(0, 8).Put(8, 8).Put(5, 5).Zeros(3).Put(0, 1).Zeros(42);
     Substream(w, 0, "it");
@@ -242,17 +224,16 @@ TEST(DescAC4, DsiVersion1)
               "m_ac4_alternative_info invalid value: name_len[" + std::to_string(bad.Data().size()) + "]");
 }
 
-TEST(DescAC4, ForkStartsEmptyAndRows)
+TEST(DescAC4, ForkStartsEmptyAndExtensionRows)
 {
-    zumtest::Bytes raw = Desc(0x7F, {0x15, 0x40, 0x00});
-    auto d = Decode(new TCDescAC4(), raw);
-    const zumtest::Bytes toc = DsiV0();
-    EXPECT_EQ(Walk(*d, toc, &TCDescAC4::m_ac4_dsi), "");
+    auto d = Decode(new TCDescAC4(), Desc(0x7F, {0x15, 0x40, 0x00}));
+    EXPECT_EQ(Walk(*d, DsiV0(), &TCDescAC4::m_ac4_dsi), "");
     std::unique_ptr<TCBaseDesc> clone(d->Fork());
     EXPECT_EQ(static_cast<TCDescAC4*>(clone.get())->NumOfPresentations(), 0);
-    EXPECT_EQ(clone->Tag(), 0x7F15);
     ExpectRows({
         {"GBR DEU", 0x02, Desc(0x7F, {0x15, 0x00}), 0x7F15, typeid(TCDescAC4)},
         {"GBR", 0x42, Desc(0x7F, {0x15, 0x00}), 0x7F15, typeid(TCDescAC4)},
+        {"GBR DEU", 0x02, Desc(0x7F, {0x19, 0x00}), 0x7F19, typeid(TCDescAPD)},
+        {"GBR", 0x42, Desc(0x7F, {0x19, 0x00}), 0x7F19, typeid(TCDescAPD)},
     });
 }
