@@ -37,8 +37,8 @@ TEST(DescLangBCP47, EveryKeyOfTheMap)
         "fin: fi fit fkv", "nor: no", "srp: sr sh-sr", "cym: cy", "gdh: gd", "iri: ga", "slk: sk", "mao: mi",
         "cmn: cmn", "yue: hks yue", "hin: hi hca hif", "qaa: qaa", "qab: qab", "qac: qac", "nar: nar", "cat: csc",
         "val: ca-valencia", "glg: gl", "eus: eu", "tam: ta", "est: et ekk",
-        "ara: ar ajt aju jrb jye sqr xaa xna xrb yhd yud aao abh abv acm acq acw acx acy adf aeb aec afb ajp apc "
-        "apd arb arq ars ary arz avl ayh ayl ayn ayp bbz pga shu ssh",
+        ("ara: ar ajt aju jrb jye sqr xaa xna xrb yhd yud aao abh abv acm acq acw acx acy adf aeb aec afb ajp apc "
+        "apd arb arq ars ary arz avl ayh ayl ayn ayp bbz pga shu ssh"),
         "per: fa", "tha: th cth nod pht soa sou tts", "heb: he iw hbo",
         "ind: id in bdl bhz bnd bvt bzq kbv kvd lhh lti mhs mqa mxn pea spb tmn twe wmm", "vie: vi", "urd: ur",
         "afr: af", "zul: zu", "xho: xh", "yor: yo", "igb: ig", "hau: ha", "swa: sw ccl swc", "swh: swh",
