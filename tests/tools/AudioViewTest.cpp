@@ -44,7 +44,7 @@ TEST(InspectAudio, AC4AndPreselectionsOnAPmtStream)
     EXPECT_EQ(ac4Fields["presentations"], Json::parse(R"([{"id": 1, "language": "eng", "main": true},
                                                           {"id": 2, "language": "spa", "main": false}])"));
     EXPECT_EQ(ac4Fields["dsiVersion"], 0);
-    EXPECT_EQ(ac4Fields["channelMode"], "stereo");
+    EXPECT_EQ(ac4Fields["channelModeName"], "stereo");
     EXPECT_FALSE(ac4Fields.contains("dsiError"));
     EXPECT_EQ(loop[1]["fields"]["preselections"].at(1)["audioDescription"], true);
 

@@ -7,12 +7,11 @@
 
 #include "av/DescAC4.h"
 #include "av/DescAPD.h"
+#include "inspect/Names.h"
 
 namespace zuminspect {
 
 namespace {
-
-const char* const kChannelModes[] = {"mono", "stereo", "multichannel", "reserved"};
 
 // The language of a presentation: its letters, "-" when no tag gave one, "?" for a tag without a code.
 std::string PresentationLanguage(ELanguageCode code)
@@ -69,8 +68,8 @@ std::string AC4Summary(const Json& fields)
         separator = ", ";
     }
     std::string sound;
-    if (fields["channelMode"].is_string())
-        sound = fields["channelMode"].get<std::string>();
+    if (fields["channelModeName"].is_string())
+        sound = fields["channelModeName"].get<std::string>();
     if (fields["dialogEnhancement"].get<bool>())
         sound += sound.empty() ? "DE" : " + DE";
     return sound.empty() ? line : line + "; " + sound;
@@ -97,7 +96,8 @@ Json DescribeAC4(const TCDescAC4& d, const TextDecoder&)
                 {"configFlag", d.ConfigFlag() != 0},
                 {"tocFlag", d.TocFlag() != 0},
                 {"dialogEnhancement", d.DialogEnhancementEnabled() != 0},
-                {"channelMode", d.ConfigFlag() ? Json(kChannelModes[d.ChannelMode() & 3]) : Json(nullptr)},
+                {"channelMode", d.ConfigFlag() ? Json(d.ChannelMode()) : Json(nullptr)},
+                {"channelModeName", d.ConfigFlag() ? Json(AC4ChannelModeName(d.ChannelMode())) : Json(nullptr)},
                 {"tocLength", d.TocLength()},
                 {"toc", HexOf(toc)},
                 {"additionalInfo", HexOf(info)}};
@@ -119,6 +119,7 @@ Json DescribeAPD(const TCDescAPD& d, const TextDecoder&)
             list.push_back(
                 {{"id", p.preselectionId},
                  {"renderingIndication", p.audioRenderingIndication},
+                 {"renderingIndicationName", AudioRenderingIndicationName(p.audioRenderingIndication)},
                  {"audioDescription", p.audioDescription != 0},
                  {"spokenSubtitles", p.spokenSubtitles != 0},
                  {"dialogueEnhancement", p.dialogueEnhancement != 0},

@@ -5,13 +5,15 @@
 // presentations of its toc, and the audio preselections, each with a summary
 // line a listener would read ("AC-4, 2 presentations: eng (main), spa; stereo + DE").
 //
-// AC-4:  {"summary", "configFlag", "tocFlag", "dialogEnhancement", "channelMode": "mono"|"stereo"|
-//         "multichannel"|"reserved"|null, "tocLength", "toc": hex, "additionalInfo": hex,
-//         "dsiVersion": n|null, "dsiError": text (only when the walk stopped),
+// AC-4:  {"summary", "configFlag", "tocFlag", "dialogEnhancement", "channelMode": n|null,
+//         "channelModeName": "mono"|"stereo"|"multichannel"|"reserved"|null, "tocLength",
+//         "toc": hex, "additionalInfo": hex, "dsiVersion": n|null,
+//         "dsiError": text (only when the walk stopped),
 //         "presentations": [{"id", "language": "eng"|"-"|"?", "main"}]}
-// APD:   {"summary", "preselections": [{"id", "renderingIndication", "audioDescription", "spokenSubtitles",
-//         "dialogueEnhancement", "interactivityEnabled", "language": "eng"|null, "messageId": n|null,
-//         "auxComponents": hex|null, "futureExtension": hex|null}]}
+// APD:   {"summary", "preselections": [{"id", "renderingIndication", "renderingIndicationName",
+//         "audioDescription", "spokenSubtitles", "dialogueEnhancement", "interactivityEnabled",
+//         "language": "eng"|null, "messageId": n|null, "auxComponents": hex|null,
+//         "futureExtension": hex|null}]}
 
 #include "inspect/Json.h"
 #include "inspect/Text.h"
