@@ -6,11 +6,15 @@
 // see what an accessor touches.
 
 #include <list>
+#include <memory>
+#include <stdexcept>
 #include <map>
 #include <set>
 #include <vector>
 
 #include "ReadAvFields.h"
+#include "av/DescAC4.h"
+#include "av/DescAPD.h"
 #include "dvb/DescComponent.h"
 #include "dvb/DescContent.h"
 #include "dvb/DescCountryAvailability.h"
@@ -54,9 +58,53 @@ inline void ReadLcn(IDescLogicalChannel& d)
         Take(e->serviceId + e->channelNumber);
 }
 
+// Both DSI walks over the toc, on clones, as a player picks one; a walk stops with out_of_range.
+inline void ReadAC4(const TCDescAC4& d)
+{
+    std::vector<unsigned char> toc(static_cast<size_t>(d.TocSize()) + 1);
+    int size = d.TocSize();
+    if (!d.GetToc(toc.data(), &size))
+        size = 0;
+    for (int version = 0; version < 2; ++version) {
+        std::unique_ptr<TCBaseDesc> clone(d.Fork());
+        auto* walker = static_cast<TCDescAC4*>(clone.get());
+        try {
+            if (version == 0)
+                walker->m_ac4_dsi(size, toc.data());
+            else
+                walker->m_ac4_dsi_v1(size, toc.data());
+        } catch (const std::out_of_range&) {
+        }
+        for (int i = -1; i <= walker->NumOfPresentations(); ++i)
+            if (const TCAC4Presentation* p = walker->Presentation(i))
+                Take(p->PresentationId() + p->Language() + p->Main());
+    }
+    Take(d.AdditionalInfoLength() + d.TocLength() + d.ChannelMode());
+}
+
+inline void ReadAPD(const TCDescAPD& d)
+{
+    std::vector<CAudioPreselection> out(static_cast<size_t>(d.NumOfPreselections()) + 1);
+    if (!d.GetPreselections(out.data(), d.NumOfPreselections()))
+        return;
+    for (const CAudioPreselection& p : out) {
+        CAudioPreselection copy;
+        copy = p;
+        for (int i = 0; i < copy.AuxComponentsLength(); ++i)
+            Take(copy.AuxComponents()[i]);
+        for (int i = 0; i < copy.FutureExtensionBytesLength(); ++i)
+            Take(copy.FutureExtensionBytes()[i]);
+        Take(copy.language + copy.numAuxComponents);
+    }
+}
+
 inline void Read(TCBaseDesc* desc)
 {
     ReadApp(desc);
+    if (auto* d = dynamic_cast<TCDescAC4*>(desc))
+        ReadAC4(*d);
+    if (auto* d = dynamic_cast<TCDescAPD*>(desc))
+        ReadAPD(*d);
     if (auto* d = dynamic_cast<TCDescNetworkName*>(desc))
         Text<unsigned char, unsigned short>(*d, &TCDescNetworkName::NetworkNameText);
     if (auto* d = dynamic_cast<TCDescBouquetName*>(desc))

@@ -2,6 +2,8 @@
 
 #include "../av/DescAACAudio.h"
 #include "../av/DescTTMLSubtitling.h"
+#include "../av/DescAC4.h"
+#include "../av/DescAPD.h"
 #include "../dvb/DescT2SystemDelivery.h"
 
 TCDescExtension::TCDescExtension() : TCBaseDesc(0x7F) {}
@@ -37,6 +39,8 @@ TCBaseDesc* TCDescExtension::ProcessExtensionDescriptor(const unsigned char* dat
     case 0x04: return new TCDescT2SystemDelivery();
     case 0x06: return new TCDescSupplementaryAudio();
     case 0x20: return new TCDescTTMLSubtitling();
+    case 0x15: return new TCDescAC4();
+    case 0x19: return new TCDescAPD();
     default: return new TCDescExtension();
     }
 }

@@ -7,16 +7,24 @@ TCDescriptorDataTranslator::TCDescriptorDataTranslator(const unsigned char* data
 {
 }
 
-uint64_t TCDescriptorDataTranslator::GetBits(int count)
+bool TCDescriptorDataTranslator::ReadBitsAt(const unsigned char* data, int byteLength, long long position,
+                                            int count, uint64_t& value)
 {
     // Counted against the bits left, so that no count overflows the sum.
-    if (count < 1 || count > m_bitCount - m_position)
-        return 0;
+    if (!data || count < 1 || count > 64 || position < 0 || count > byteLength * 8LL - position)
+        return false;
+    uint64_t bits = 0;
+    for (long long p = position; p < position + count; ++p)
+        bits = (bits << 1) | ((data[p / 8] >> (7 - (p & 7))) & 1u);
+    value = bits;
+    return true;
+}
+
+uint64_t TCDescriptorDataTranslator::GetBits(int count)
+{
     uint64_t value = 0;
-    for (int i = 0; i < count; ++i) {
-        const int p = m_position + i;
-        value = (value << 1) | ((m_pData[p / 8] >> (7 - (p & 7))) & 1u);
-    }
+    if (!ReadBitsAt(m_pData, m_length, m_position, count, value))
+        return 0;
     m_position = static_cast<unsigned short>(m_position + count);
     return value;
 }

@@ -19,6 +19,13 @@ public:
     unsigned char GetUInt8();
     bool EndOfData() const;
 
+    // The `count` bits (1 to 64) at bit `position` of `byteLength` bytes at
+    // `data`, most significant first; false, and `value` untouched, when they
+    // are not all there. The one bounded bit read, for readers that keep
+    // their own position.
+    static bool ReadBitsAt(const unsigned char* data, int byteLength, long long position, int count,
+                           uint64_t& value);
+
 private:
     const unsigned char* m_pData;
     unsigned char m_length;

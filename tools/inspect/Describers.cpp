@@ -36,7 +36,10 @@
 #include "dvb/DescT2SystemDelivery.h"
 #include "inspect/AvView.h"
 #include "inspect/AitView.h"
+#include "inspect/AudioView.h"
 #include "inspect/EwsView.h"
+#include "av/DescAC4.h"
+#include "av/DescAPD.h"
 #include "isdb/DescEmergencyInformation.h"
 #include "operators/DescLogicalChannel.h"
 #include "inspect/LinkageView.h"
@@ -541,6 +544,8 @@ DescriberTable MakeTable()
     Register<TCDescUnboundApplication>(t, DescribeUnboundApplication);
     Register<TCDescApplicationStorage>(t, DescribeApplicationStorage);
     Register<TCDescApplicationSignalling>(t, DescribeApplicationSignalling);
+    Register<TCDescAC4>(t, DescribeAC4);
+    Register<TCDescAPD>(t, DescribeAPD);
     Register<TCDescLinkage>(t, LinkageFields);
     Register<TCDescDataBroadcast>(t, DataBroadcastFields);
     Register<TCDescDataBroadcastId>(t, DataBroadcastIdFields);

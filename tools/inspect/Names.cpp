@@ -522,6 +522,12 @@ const Name kT2TransmissionModes[] = {{0, "2k mode"}, {1, "8k mode"},  {2, "4k mo
                                      {3, "1k mode"}, {4, "16k mode"}, {5, "32k mode"}};
 const Name kSisoMiso[] = {{0, "SISO"}, {1, "MISO"}};
 
+// ---- next-generation audio ---------------------------------------------------
+
+const Name kAC4ChannelModes[] = {{0, "mono"}, {1, "stereo"}, {2, "multichannel"}};
+const Name kAudioRenderingIndications[] = {
+    {0, "no preference"}, {1, "stereo"}, {2, "two-dimensional"}, {3, "three-dimensional"}, {4, "headphones"}};
+
 // ---- other descriptors -----------------------------------------------------
 
 const Name kTeletextTypes[] = {
@@ -789,6 +795,13 @@ std::string TransmissionModeName(unsigned int code) { return Lookup(kTransmissio
 std::string T2GuardIntervalName(unsigned int code) { return Lookup(kT2GuardIntervals, code, "reserved for future use"); }
 std::string T2TransmissionModeName(unsigned int code) { return Lookup(kT2TransmissionModes, code, "reserved for future use"); }
 std::string SisoMisoName(unsigned int code) { return Lookup(kSisoMiso, code, "reserved for future use"); }
+
+std::string AC4ChannelModeName(unsigned int code) { return Lookup(kAC4ChannelModes, code); }
+
+std::string AudioRenderingIndicationName(unsigned int code)
+{
+    return Lookup(kAudioRenderingIndications, code, "reserved for future use");
+}
 
 std::string AtscModulationName(unsigned int modulationMode)
 {

@@ -69,6 +69,10 @@ std::string T2GuardIntervalName(unsigned int code);
 std::string T2TransmissionModeName(unsigned int code);
 std::string SisoMisoName(unsigned int code);
 
+// ---- next-generation audio (EN 300 468 AC-4 and audio preselection) --------
+std::string AC4ChannelModeName(unsigned int code);
+std::string AudioRenderingIndicationName(unsigned int code);
+
 // ---- ATSC (A/65) -----------------------------------------------------------
 std::string AtscModulationName(unsigned int modulationMode);
 std::string AtscServiceTypeName(unsigned int serviceType);
