@@ -12,6 +12,7 @@
 #include "DescConfDS.h"
 #include "DescConfDVB.h"
 #include "DescConfPSIBase.h"
+#include "DescConfOOB.h"
 #include "DescConfPSIP.h"
 #include "BroadcastCountries.h"
 #include "ByteReader.h"
@@ -296,6 +297,9 @@ TCDescConfBase* TCDescriptorATSC::t_GetDescConf(unsigned char tableId)
     case 0x74: return new TCDescConfDS();
     case 0xC7: case 0xC8: case 0xC9: case 0xCA: case 0xCB: case 0xCD: case 0xD8:
         return new TCDescConfPSIP();
+    // Out-of-band tables: without a factory their records' descriptors could not be stepped over.
+    case 0xC2: case 0xC3: case 0xC4: case 0xC5: case 0xD6: case 0xD7:
+        return new TCDescConfOOB();
     default: return nullptr;
     }
 }

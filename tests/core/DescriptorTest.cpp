@@ -76,9 +76,10 @@ int ParseLoop(Loop& loop, const Bytes& bytes, TCDescriptorHash& hash, unsigned c
 // binder (only DVB tracks specifiers).
 TEST(Descriptor, CountrySwitch)
 {
-    // Which of the table ids 0xC7, 0xC4, 0x4A, 0x40, 0x02, 0x01, 0x52 the system decodes.
+    // Which of the table ids 0xC7, 0xC4, 0x4A, 0x40, 0x02, 0x01, 0x52 the system decodes
+    // (ATSC reads the out-of-band tables, 0xC4 among them).
     const std::map<std::string, std::string> scopes = {
-        {"ATSC", "1000100"}, {"JPN", "0101110"}, {"ISDB", "0001110"}, {"DVB", "0011110"}};
+        {"ATSC", "1100100"}, {"JPN", "0101110"}, {"ISDB", "0001110"}, {"DVB", "0011110"}};
     struct Case { const char* country; unsigned int op; const char* system; } cases[] = {
         {"KOR", 0, "ATSC"},  {"USA", 0, "ATSC"}, {"JPN", 0, "JPN"},  {"ARG", 0, "ISDB"}, {"BOL", 0, "ISDB"},
         {"BRA", 0, "ISDB"},  {"CHL", 0, "ISDB"}, {"EQU", 0, "ISDB"}, {"PAR", 0, "ISDB"}, {"PER", 0, "ISDB"},

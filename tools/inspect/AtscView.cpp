@@ -11,6 +11,7 @@
 #include "atsc/MultipleStringStruct.h"
 #include "atsc/VCTParser.h"
 #include "inspect/Describers.h"
+#include "inspect/OobView.h"
 #include "inspect/Renderers.h"
 #include "inspect/TsDemux.h"
 
@@ -156,7 +157,15 @@ TCSectionParser* Made(std::unique_ptr<Slot>& slot, const ZUMHandle& handle)
 
 // ---- routing ----------------------------------------------------------------
 
-AtscTables::AtscTables(const ZUMHandle& handle) : m_handle(handle), m_enabled(IsAtscCountry(handle)) {}
+AtscTables::AtscTables(const ZUMHandle& handle)
+    : m_handle(handle), m_enabled(IsAtscCountry(handle)), m_oob(new OobTables(handle))
+{
+}
+
+bool AtscTables::Wants(uint16_t pid) const
+{
+    return m_enabled && (pid == kPidAtscBase || OobTables::Wants(pid));
+}
 
 AtscTables::~AtscTables() = default;
 
@@ -174,6 +183,10 @@ AtscTables::Kind AtscTables::m_KindOf(uint16_t pid, uint8_t tableId) const
 
 TCSectionParser* AtscTables::Parser(uint16_t pid, uint8_t tableId)
 {
+    if (!m_enabled)
+        return nullptr;
+    if (TCSectionParser* oob = m_oob->Parser(pid, tableId))
+        return oob;
     switch (m_KindOf(pid, tableId)) {
     case Kind::Mgt: return Made<TCMGTParser>(m_mgt, m_handle);
     case Kind::Tvct: Made<TCTVCTParser>(m_tvct, m_handle); break;
@@ -207,6 +220,11 @@ void AtscTables::m_HandMgtVersions()
 
 std::string AtscTables::ParserName(uint16_t pid, uint8_t tableId) const
 {
+    if (!m_enabled)
+        return std::string();
+    const std::string oob = m_oob->ParserName(pid, tableId);
+    if (!oob.empty())
+        return oob;
     switch (m_KindOf(pid, tableId)) {
     case Kind::Mgt: return "TCMGTParser";
     case Kind::Tvct: return "TCTVCTParser";
@@ -218,6 +236,10 @@ std::string AtscTables::ParserName(uint16_t pid, uint8_t tableId) const
 
 std::optional<bool> AtscTables::Complete(uint16_t pid, uint8_t tableId) const
 {
+    if (!m_enabled)
+        return std::nullopt;
+    if (const std::optional<bool> oob = m_oob->Complete(pid, tableId))
+        return oob;
     switch (m_KindOf(pid, tableId)) {
     case Kind::Mgt: return m_mgt && m_mgt->IsValid();
     case Kind::Tvct: return m_tvct && m_tvct->IsRecv();
@@ -264,7 +286,9 @@ Json DescribeAtsc(const AtscTables& tables, const TextDecoder& text)
                         {"descriptors", DescribeLoop(*vct, text)},
                         {"channels", channels}});
     }
-    return {{"mgt", tables.Mgt() ? Mgt(*tables.Mgt(), text) : Json(nullptr)}, {"vcts", vcts}};
+    return {{"mgt", tables.Mgt() ? Mgt(*tables.Mgt(), text) : Json(nullptr)},
+            {"vcts", vcts},
+            {"oob", DescribeOob(tables.Oob(), text)}};
 }
 
 std::optional<Json> DescribeAtscDescriptor(const TCBaseDesc& desc)
@@ -321,6 +345,7 @@ void RenderAtscTree(const Json& atsc, std::ostream& out)
             RenderDescriptors(c["descriptors"], 2, out);
         }
     }
+    RenderOobTree(atsc["oob"], out);
 }
 
 } // namespace zuminspect

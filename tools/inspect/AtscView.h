@@ -13,7 +13,8 @@
 //              "channels": [{"channel": "10.1 KULX-HD", "major", "minor", "shortName", "name": text|null,
 //                            "modulation", "carrierFrequency", "channelTsid", "programNumber", "etmLocation",
 //                            "accessControlled", "hidden", "pathSelect", "hideGuide", "serviceType",
-//                            "sourceId", "descriptors": [D]}]}]}
+//                            "sourceId", "descriptors": [D]}]}],
+//    "oob": the out-of-band tables (OobView.h)}
 
 #include <cstdint>
 #include <memory>
@@ -34,6 +35,8 @@ class TCMultipleStringStruct;
 
 namespace zuminspect {
 
+class OobTables;
+
 constexpr uint16_t kPidAtscBase = 0x1FFB;
 
 class AtscTables {
@@ -45,7 +48,8 @@ public:
     AtscTables& operator=(const AtscTables&) = delete;
 
     bool Enabled() const { return m_enabled; }
-    bool Wants(uint16_t pid) const { return m_enabled && pid == kPidAtscBase; }
+    // The base PID, and the out-of-band PID of the cable control channel.
+    bool Wants(uint16_t pid) const;
     // The parser of this table on this PID (any PID for a file of sections); null when none.
     TCSectionParser* Parser(uint16_t pid, uint8_t tableId);
     // After a section went to Parser's answer: the MGT hands its VCT versions on.
@@ -55,6 +59,7 @@ public:
 
     const TCMGTParser* Mgt() const { return m_mgt.get(); }
     const TCVCTParser* Vct(uint8_t tableId) const;
+    const OobTables& Oob() const { return *m_oob; }
 
 private:
     enum class Kind { None, Mgt, Tvct, Cvct };
@@ -66,6 +71,7 @@ private:
     std::unique_ptr<TCMGTParser> m_mgt;
     std::unique_ptr<TCVCTParser> m_tvct;
     std::unique_ptr<TCVCTParser> m_cvct;
+    std::unique_ptr<OobTables> m_oob;
 };
 
 // A multiple string structure as the binder's viewer reads it, in UTF-8;

@@ -1,0 +1,13 @@
+#ifndef ZUM_CORE_DESCCONFOOB_H
+#define ZUM_CORE_DESCCONFOOB_H
+
+#include "DescConfPSIP.h"
+
+// Factory of the out-of-band tables of the cable control channel (NIT, NTT,
+// SVCT, STT, AEIT, AETT): the PSIP tags plus the revision detection descriptor.
+class ZUM_EXPORT TCDescConfOOB : public TCDescConfPSIP {
+public:
+    TCBaseDesc* NewDescriptor(int tag, const unsigned char* data, unsigned int pds) override;
+};
+
+#endif
