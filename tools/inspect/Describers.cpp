@@ -14,6 +14,17 @@
 #include <vector>
 
 #include "core/BaseDesc.h"
+#include "inspect/OperatorsView.h"
+#include "operators/DescAstraServiceListName.h"
+#include "operators/DescCIPlusService.h"
+#include "operators/DescDSmartIdentifier.h"
+#include "operators/DescDigiturkServiceTheme.h"
+#include "operators/DescDishTVGenre.h"
+#include "operators/DescGTPLGenreList.h"
+#include "operators/DescMRP.h"
+#include "operators/DescTelekomGrid.h"
+#include "operators/DescTricolorRegionName.h"
+#include "operators/DescUKDTTServiceAttribute.h"
 #include "core/DescriptorContainer.h"
 #include "dvb/DescCAIdentifier.h"
 #include "dvb/DescComponent.h"
@@ -458,6 +469,27 @@ DescriberTable MakeTable()
     Register<TCDescLogicalChannel>(t, LogicalChannel);
     Register<TCDescLogicalChannelV2>(t, LogicalChannelV2);
     Register<TCDescEmergencyInformation>(t, DescribeEmergencyInformation);
+    Register<TCDescAstraServiceListName>(t, DescribeAstraServiceListName);
+    Register<TCDescAstraBouquetList>(t, DescribeAstraBouquetList);
+    Register<TCDescAstraVirtualServiceId>(t, DescribeAstraVirtualServiceId);
+    Register<TCDescCIPlusContentLabel>(t, DescribeCIPlusContentLabel);
+    Register<TCDescCIPlusProtection>(t, DescribeCIPlusProtection);
+    Register<TCDescCIPlusService>(t, DescribeCIPlusService);
+    Register<TCDescCIPlusAdvancedService>(t, DescribeCIPlusAdvancedService);
+    Register<TCDescCICAMVirtualChannel>(t, DescribeCICAMVirtualChannel);
+    Register<TCDescDSmartIdentifier>(t, DescribeDSmartIdentifier);
+    Register<TCDescDSmartSatelliteDeliverySystem>(t, DescribeDSmartSatelliteDelivery);
+    Register<TCDescDigiturkServiceTheme>(t, DescribeDigiturkServiceTheme);
+    Register<TCDescDishTVGenre>(t, DescribeDishTVGenre);
+    Register<TCDescDishTVSVL>(t, DescribeDishTVSVL);
+    Register<TCDescGTPLGenreList>(t, DescribeGTPLGenreList);
+    Register<TCDescGTPLGenreOfService>(t, DescribeGTPLGenreOfService);
+    Register<TCDescMRP>(t, DescribeMRP);
+    Register<TCDescTelekomGrid>(t, DescribeTelekomGrid);
+    Register<TCDescTricolorBouquetList>(t, DescribeTricolorBouquetList);
+    Register<TCDescTricolorRegionName>(t, DescribeTricolorRegionName);
+    Register<TCDescTricolorListType>(t, DescribeTricolorListType);
+    Register<TCDescUKDTTServiceAttribute>(t, DescribeUKDTTServiceAttribute);
     return t;
 }
 

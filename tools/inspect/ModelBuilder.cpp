@@ -14,6 +14,7 @@
 #include "inspect/EwsView.h"
 #include "inspect/Router.h"
 #include "inspect/SitView.h"
+#include "inspect/OperatorsView.h"
 #include "inspect/TableIds.h"
 #include "inspect/TsDemux.h"
 #include "operators/DescLogicalChannel.h"
@@ -354,6 +355,7 @@ Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContex
             {"lcn", b.Lcn()},
             {"ews", EwsModel(router, b.text)},
             {"sit", DescribeSit(router.Sit(), b.text)},
+            {"sgt", DescribeSgt(router.Sgt(), b.text)},
             {"summary", b.Summary()}};
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "inspect/EwsView.h"
+#include "inspect/OperatorsView.h"
 #include "inspect/Text.h"
 
 namespace zuminspect {
@@ -264,6 +265,7 @@ void RenderTree(const Json& model, std::ostream& out)
     tree.Lcn(model["lcn"]);
     RenderEwsTree(model["ews"], out);
     tree.Sit(model["sit"]);
+    RenderSgtTree(model["sgt"], out);
     tree.Summary(model["summary"]);
 }
 

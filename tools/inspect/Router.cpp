@@ -8,6 +8,7 @@
 #include "dvb/DVBLCNParser.h"
 #include "dvb/DVBNITParser.h"
 #include "dvb/DVBSDTParser.h"
+#include "dvb/DVBSGTParser.h"
 #include "dvb/DVBTDTParser.h"
 #include "dvb/DVBTOTParser.h"
 #include "inspect/TableIds.h"
@@ -27,6 +28,7 @@ constexpr uint8_t kTidLcn = 0x85;
 constexpr uint8_t kTidEws = 0x80;
 constexpr int kStreamTypePrivateSections = 0x05;
 constexpr uint8_t kTidSit = 0xD5;
+constexpr uint8_t kTidSgt = 0x91;
 
 bool IsEit(uint8_t tableId)
 {
@@ -84,6 +86,9 @@ Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
     // 0x80 is a compressed EIT on the EIT PID, the emergency warning table on a private-section stream.
     if (tableId == kTidEws && pid != kPidEit && m_privateSectionPids.count(pid) > 0)
         return Kind::Ews;
+    // Astra's service lists come on a private-section stream of the PMT.
+    if (tableId == kTidSgt && pid != kPidEit && m_privateSectionPids.count(pid) > 0)
+        return Kind::Sgt;
     // 0x85 is a compressed EIT on the EIT PID and the channel number table anywhere else.
     if (IsEit(tableId) && (pid == kPidEit || (any && tableId != kTidLcn)))
     // 0x85 is a compressed EIT on the EIT PID and the channel number table
@@ -115,6 +120,8 @@ Router::Kind Router::m_KindOfSection(uint16_t pid, const uint8_t* section, size_
         return Kind::None;
     if (HasCompressedEitShape(section, size))
         return Kind::Eit;
+    if (tableId == kTidSgt)
+        return Kind::Sgt;
     return tableId == kTidLcn ? Kind::Lcn : Kind::None;
 }
 
@@ -139,6 +146,7 @@ TCSectionParser* Router::m_Parser(Kind kind, uint8_t tableId)
     case Kind::Lcn: return Lazy(m_lcn, m_handle);
     case Kind::Ews: return Lazy(m_ews);
     case Kind::Sit: return Lazy(m_sit, static_cast<int>(tableId), m_handle);
+    case Kind::Sgt: return Lazy(m_sgt, m_handle);
     case Kind::None: break;
     }
     return nullptr;
@@ -215,6 +223,7 @@ std::string Router::ParserName(uint16_t pid, uint8_t tableId) const
     case Kind::Lcn: return "TCDVBLCNParser";
     case Kind::Ews: return "TCEWSParser";
     case Kind::Sit: return "TCSITParser";
+    case Kind::Sgt: return "TCDVBSGTParser";
     case Kind::None: break;
     }
     return std::string();
@@ -259,6 +268,7 @@ std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
     case Kind::Lcn: return m_lcn && m_lcn->IsRecv();
     case Kind::Ews: return m_ews && m_ews->IsValidTRDW() && m_ews->IsValidTCDW() && m_ews->IsValidTMDW();
     case Kind::Sit: return m_sit && m_sit->IsRecv();
+    case Kind::Sgt: return m_sgt && m_sgt->AllSubtablesReceived();
     case Kind::None: break;
     }
     return std::nullopt;
