@@ -27,6 +27,7 @@
 #include "dvb/DescShortEvent.h"
 #include "operators/DescLogicalChannelV2.h"
 #include "ReadAppFields.h"
+#include "ReadOperatorFields.h"
 
 namespace fuzzfields {
 
@@ -193,6 +194,7 @@ inline void Read(TCBaseDesc* desc)
             ReadLcn(*d);
         }
     }
+    ReadOperator(desc);
 }
 
 } // namespace fuzzfields

@@ -16,7 +16,16 @@
 #include "../dvb/DescLinkage.h"
 #include "../dvb/DescLocalTimeOffset.h"
 #include "../dvb/DescSatelliteDeliverySystem.h"
+#include "../operators/DescAstraServiceListName.h"
+#include "../operators/DescCIPlusService.h"
+#include "../operators/DescDSmartIdentifier.h"
+#include "../operators/DescDigiturkServiceTheme.h"
 #include "../operators/DescDishTVGenre.h"
+#include "../operators/DescGTPLGenreList.h"
+#include "../operators/DescMRP.h"
+#include "../operators/DescTelekomGrid.h"
+#include "../operators/DescTricolorRegionName.h"
+#include "../operators/DescUKDTTServiceAttribute.h"
 #include "../operators/DescLogicalChannel.h"
 #include "../operators/DescLogicalChannelV2.h"
 #include "Diagnostics.h"
@@ -126,6 +135,7 @@ TCBaseDesc* TCDescConfDVB::t_NewDefaultPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {
     case 0x83: return new TCDescLogicalChannel(0x83, pds);
+    case 0xE2: return m_GetPrivateDataSpecification() == 0x009FFFFF ? new TCDescTelekomGrid() : nullptr;
     default: return nullptr;
     }
 }
@@ -160,7 +170,17 @@ TCBaseDesc* TCDescConfDVB::m_NewEbookPrivateDesc(int tag, unsigned int pds)
     default: return t_NewDefaultPrivateDesc(tag, pds);
     }
 }
-TCBaseDesc* TCDescConfDVB::m_NewCIPlusPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewCIPlusPrivateDesc(int tag, unsigned int pds)
+{
+    switch (tag) {
+    case 0xCB: return new TCDescCIPlusContentLabel();
+    case 0xCC: return new TCDescCIPlusService();
+    case 0xCE: return new TCDescCIPlusProtection();
+    case 0xD2: return new TCDescCICAMVirtualChannel();
+    case 0xD3: return new TCDescCIPlusAdvancedService();
+    default: return t_NewDefaultPrivateDesc(tag, pds);
+    }
+}
 TCBaseDesc* TCDescConfDVB::m_NewRCSPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {
@@ -179,6 +199,7 @@ TCBaseDesc* TCDescConfDVB::m_NewFransatPrivateDesc(int tag, unsigned int pds)
 TCBaseDesc* TCDescConfDVB::m_NewDbookPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {
+    case 0x86: return new TCDescUKDTTServiceAttribute();
     case 0x88: return new TCDescLogicalChannel(0x88, pds);
     default: return t_NewDefaultPrivateDesc(tag, pds);
     }
@@ -186,6 +207,9 @@ TCBaseDesc* TCDescConfDVB::m_NewDbookPrivateDesc(int tag, unsigned int pds)
 TCBaseDesc* TCDescConfDVB::m_NewDSmartPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {
+    case 0xCE: return new TCDescDSmartIdentifier();
+    case 0xE3:
+    case 0xED: return new TCDescDSmartSatelliteDeliverySystem(tag);
     case 0xE2: return new TCDescLogicalChannel(0xE2, pds);
     default: return t_NewDefaultPrivateDesc(tag, pds);
     }
@@ -211,6 +235,7 @@ TCBaseDesc* TCDescConfDVB::m_NewDigiturkPrivateDesc(int tag, unsigned int pds)
     case 0x81: return new TCDescLogicalChannel(0x81, pds);
     // Digiturk's own channel number format: kept raw until its class decodes it.
     case 0x83: return new TCDescDefault(0x83);
+    case 0x96: return new TCDescDigiturkServiceTheme();
     default: return t_NewDefaultPrivateDesc(tag, pds);
     }
 }
@@ -225,21 +250,46 @@ TCBaseDesc* TCDescConfDVB::m_NewTelekartaPrivateDesc(int tag, unsigned int pds)
 TCBaseDesc* TCDescConfDVB::m_NewTricolorPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {
+    case 0x86: return new TCDescTricolorBouquetList();
     case 0x87: return new TCDescLogicalChannelV2(m_handle);
+    case 0x88: return new TCDescTricolorRegionName(m_handle);
+    case 0xB2: return new TCDescTricolorListType();
     default: return t_NewDefaultPrivateDesc(tag, pds);
     }
 }
 TCBaseDesc* TCDescConfDVB::m_NewTKGSPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
 TCBaseDesc* TCDescConfDVB::m_NewFSatPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
 TCBaseDesc* TCDescConfDVB::m_NewKDGPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
-TCBaseDesc* TCDescConfDVB::m_NewDishTVPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewDishTVPrivateDesc(int tag, unsigned int pds)
+{
+    switch (tag) {
+    case 0x86: return new TCDescDishTVSVL();
+    case 0x87: return new TCDescMRP(0x87, pds);
+    default: return t_NewDefaultPrivateDesc(tag, pds);
+    }
+}
 
 // GTPL has no default rule: what it does not hold is skipped.
 TCBaseDesc* TCDescConfDVB::m_NewGTPLPrivateDesc(int tag, unsigned int pds)
 {
+    constexpr unsigned int kGtpl = 0x000062E1;
     switch (tag) {
-    case 0xE2: return pds == 0x000062E1 ? new TCDescLogicalChannel(0xE2, 0x000062E1) : nullptr;
+    case 0x85:
+    case 0x86: return new TCDescGTPLGenreList(tag);
+    case 0xBA: return pds == kGtpl ? new TCDescMRP(0xBA, kGtpl) : nullptr;
+    case 0xCC: return pds == kGtpl ? new TCDescGTPLGenreOfService() : nullptr;
+    case 0xE2: return pds == kGtpl ? new TCDescLogicalChannel(0xE2, kGtpl) : nullptr;
     default: return nullptr;
+    }
+}
+
+TCBaseDesc* TCDescConfDVB::m_NewAstraPrivateDesc(int tag, unsigned int /*pds*/)
+{
+    switch (tag) {
+    case 0x88: return new TCDescAstraServiceListName();
+    case 0x93: return new TCDescAstraBouquetList();
+    case 0xD1: return new TCDescAstraVirtualServiceId();
+    default: return new TCDescDefault(tag);
     }
 }
 
@@ -253,11 +303,8 @@ TCBaseDesc* TCDescConfAstra::t_ProcessPrivateDesc(int tag, unsigned int pds)
     if (!ZUM_ASSERT(pBinder))
         return nullptr;
     const unsigned int configured = pds == 0 ? pBinder->GetPrivateDataSpecification(m_handle) : pds;
-    if (configured == 1) {
-        switch (tag) {
-        default: return new TCDescDefault(tag);
-        }
-    }
+    if (configured == 1)
+        return m_NewAstraPrivateDesc(tag, configured);
     return t_NewDefaultPrivateDesc(tag, configured);
 }
 

@@ -20,6 +20,8 @@ protected:
     TCBaseDesc* t_NewDefaultPrivateDesc(int tag, unsigned int pds);
     // The binder's configured specifier, asked once per factory (that is, per loop).
     unsigned int m_GetPrivateDataSpecification();
+    // Astra's rows under specifier 1; any other tag is kept raw.
+    TCBaseDesc* m_NewAstraPrivateDesc(int tag, unsigned int pds);
 
     ZUMHandle m_handle;
     unsigned int m_pds = 0;

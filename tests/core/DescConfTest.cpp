@@ -52,7 +52,7 @@ TEST(DescConf, FallbacksByFactoryAndTag)
         {"SI tag 0xFF is not private", kDVB, 0xFF, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
         {"SI private tag without binder", kDVB, 0x83, 0x28, 0, ECOUNTRY_NONE, kNoBinderAsserts, "null"},
         {"SI non-private tag needs no binder", kDVB, 0x42, 0, 0, ECOUNTRY_NONE, kNoBinder, "default"},
-        {"Astra rows under specifier 1", kAstra, 0x88, 1, 0, ECOUNTRY_NONE, kBinder, "default"},
+        {"Astra other tags under specifier 1", kAstra, 0xA0, 1, 0, ECOUNTRY_NONE, kBinder, "default"},
         {"Astra rows by the binder's specifier 1", kAstra, 0x99, 0, 1, ECOUNTRY_NONE, kBinder, "default"},
         {"Astra other specifier follows the default rule", kAstra, 0x88, 2, 1, ECOUNTRY_NONE, kBinder, "null"},
         {"Astra non-private", kAstra, 0x42, 0, 0, ECOUNTRY_NONE, kBinder, "default"},

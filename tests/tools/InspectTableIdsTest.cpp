@@ -89,7 +89,7 @@ TEST(InspectTableIds, SharedTableIdsOfASectionFile)
     lcn.U16(100).U16(300).U16(500);
     const struct { const char* what; Bytes section; const char* country; const char* parser; size_t events; } cases[] = {
         {"compressed EIT 0x91", Eit(0x91, event), "GBR", "TCDVBEITParser", 1},
-        {"Astra SGT 0x91", sgt.Build(), "DEU", nullptr, 0},
+        {"Astra SGT 0x91", sgt.Build(), "DEU", "TCDVBSGTParser", 0},
         {"compressed EIT in an ISDB country", Eit(0x91, event), "BRA", nullptr, 0},
         {"compressed EIT 0x85", Eit(0x85, event), "GBR", "TCDVBEITParser", 1},
         {"channel numbers 0x85", lcn.Build(), "GBR", "TCDVBLCNParser", 0},

@@ -17,6 +17,17 @@
 #include "apps/DescApplicationSignalling.h"
 #include "apps/DescTransportProtocol.h"
 #include "core/BaseDesc.h"
+#include "inspect/OperatorsView.h"
+#include "operators/DescAstraServiceListName.h"
+#include "operators/DescCIPlusService.h"
+#include "operators/DescDSmartIdentifier.h"
+#include "operators/DescDigiturkServiceTheme.h"
+#include "operators/DescDishTVGenre.h"
+#include "operators/DescGTPLGenreList.h"
+#include "operators/DescMRP.h"
+#include "operators/DescTelekomGrid.h"
+#include "operators/DescTricolorRegionName.h"
+#include "operators/DescUKDTTServiceAttribute.h"
 #include "core/DescriptorContainer.h"
 #include "dvb/DescCAIdentifier.h"
 #include "inspect/AtscView.h"
@@ -551,6 +562,27 @@ DescriberTable MakeTable()
     Register<TCDescDataBroadcastId>(t, DataBroadcastIdFields);
     Register<TCDescSSULocation>(t, SSULocationFields);
     Register<TCDescCA>(t, CAFields);
+    Register<TCDescAstraServiceListName>(t, DescribeAstraServiceListName);
+    Register<TCDescAstraBouquetList>(t, DescribeAstraBouquetList);
+    Register<TCDescAstraVirtualServiceId>(t, DescribeAstraVirtualServiceId);
+    Register<TCDescCIPlusContentLabel>(t, DescribeCIPlusContentLabel);
+    Register<TCDescCIPlusProtection>(t, DescribeCIPlusProtection);
+    Register<TCDescCIPlusService>(t, DescribeCIPlusService);
+    Register<TCDescCIPlusAdvancedService>(t, DescribeCIPlusAdvancedService);
+    Register<TCDescCICAMVirtualChannel>(t, DescribeCICAMVirtualChannel);
+    Register<TCDescDSmartIdentifier>(t, DescribeDSmartIdentifier);
+    Register<TCDescDSmartSatelliteDeliverySystem>(t, DescribeDSmartSatelliteDelivery);
+    Register<TCDescDigiturkServiceTheme>(t, DescribeDigiturkServiceTheme);
+    Register<TCDescDishTVGenre>(t, DescribeDishTVGenre);
+    Register<TCDescDishTVSVL>(t, DescribeDishTVSVL);
+    Register<TCDescGTPLGenreList>(t, DescribeGTPLGenreList);
+    Register<TCDescGTPLGenreOfService>(t, DescribeGTPLGenreOfService);
+    Register<TCDescMRP>(t, DescribeMRP);
+    Register<TCDescTelekomGrid>(t, DescribeTelekomGrid);
+    Register<TCDescTricolorBouquetList>(t, DescribeTricolorBouquetList);
+    Register<TCDescTricolorRegionName>(t, DescribeTricolorRegionName);
+    Register<TCDescTricolorListType>(t, DescribeTricolorListType);
+    Register<TCDescUKDTTServiceAttribute>(t, DescribeUKDTTServiceAttribute);
     return t;
 }
 

@@ -21,6 +21,7 @@
 #include "inspect/Names.h"
 #include "inspect/Router.h"
 #include "inspect/SitView.h"
+#include "inspect/OperatorsView.h"
 #include "inspect/TableIds.h"
 #include "inspect/TsDemux.h"
 #include "operators/DescLogicalChannel.h"
@@ -414,6 +415,7 @@ Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContex
             {"ews", EwsModel(router, b.text)},
             {"sit", DescribeSit(router.Sit(), b.text)},
             {"ait", AitModel(router, b.text)},
+            {"sgt", DescribeSgt(router.Sgt(), b.text)},
             {"atsc", DescribeAtsc(router.Atsc(), b.text)},
             {"summary", b.Summary()}};
 }

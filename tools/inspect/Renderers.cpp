@@ -8,6 +8,7 @@
 #include "inspect/EwsView.h"
 #include "inspect/AtscView.h"
 #include "inspect/Format.h"
+#include "inspect/OperatorsView.h"
 #include "inspect/Text.h"
 
 namespace zuminspect {
@@ -311,6 +312,7 @@ void RenderTree(const Json& model, std::ostream& out)
     RenderEwsTree(part("ews"), out);
     tree.Sit(part("sit"));
     RenderAitTree(part("ait"), out);
+    RenderSgtTree(part("sgt"), out);
     RenderAtscTree(part("atsc"), out);
     tree.Summary(part("summary"));
 }

@@ -10,6 +10,7 @@
 #include "dvb/DVBLCNParser.h"
 #include "dvb/DVBNITParser.h"
 #include "dvb/DVBSDTParser.h"
+#include "dvb/DVBSGTParser.h"
 #include "dvb/DVBTDTParser.h"
 #include "dvb/DVBTOTParser.h"
 #include "inspect/TableIds.h"
@@ -33,6 +34,7 @@ constexpr int kStreamTypePrivateSections = 0x05;
 constexpr uint8_t kTidSit = 0xD5;
 constexpr uint8_t kTidAit = 0x74;
 constexpr int kTagApplicationSignalling = 0x6F;
+constexpr uint8_t kTidSgt = 0x91;
 
 bool IsEit(uint8_t tableId)
 {
@@ -95,6 +97,9 @@ Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
         return Kind::Bat;
     if (tableId == 0x01 && (any || pid == kPidCat))
         return Kind::Cat;
+    // Astra's service lists come on a private-section stream of the PMT.
+    if (tableId == kTidSgt && pid != kPidEit && m_privateSectionPids.count(pid) > 0)
+        return Kind::Sgt;
     // 0x85 is a compressed EIT on the EIT PID and the channel number table anywhere else.
     if (IsEit(tableId) && (pid == kPidEit || (any && tableId != kTidLcn)))
     // 0x85 is a compressed EIT on the EIT PID and the channel number table
@@ -128,6 +133,8 @@ Router::Kind Router::m_KindOfSection(uint16_t pid, const uint8_t* section, size_
         return Kind::None;
     if (HasCompressedEitShape(section, size))
         return Kind::Eit;
+    if (tableId == kTidSgt)
+        return Kind::Sgt;
     return tableId == kTidLcn ? Kind::Lcn : Kind::None;
 }
 
@@ -155,6 +162,7 @@ TCSectionParser* Router::m_Parser(Kind kind, uint8_t tableId)
     case Kind::Ait: break; // by PID, see OnSection
     case Kind::Bat: return Lazy(m_bat, m_handle);
     case Kind::Cat: return Lazy(m_cat, m_handle);
+    case Kind::Sgt: return Lazy(m_sgt, m_handle);
     case Kind::None: break;
     }
     return nullptr;
@@ -243,6 +251,7 @@ std::string Router::ParserName(uint16_t pid, uint8_t tableId) const
     case Kind::Ait: return "TCAITParser";
     case Kind::Bat: return "TCDVBBATParser";
     case Kind::Cat: return "TCDVBCATParser";
+    case Kind::Sgt: return "TCDVBSGTParser";
     case Kind::None: break;
     }
     return m_atsc->ParserName(pid, tableId);
@@ -303,6 +312,7 @@ std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
         return AllValid(ids, [&](unsigned short id) { return m_bat->GetInstance(id)->IsValid(); });
     }
     case Kind::Cat: return m_cat && m_cat->IsValid();
+    case Kind::Sgt: return m_sgt && m_sgt->AllSubtablesReceived();
     case Kind::None: break;
     }
     return m_atsc->Complete(pid, tableId);

@@ -36,6 +36,7 @@ class TCDVBLCNParser;
 class TCEWSParser;
 class TCSITParser;
 class TCAITParser;
+class TCDVBSGTParser;
 class TCDVBBATParser;
 class TCDVBCATParser;
 
@@ -103,11 +104,12 @@ public:
     // One AIT parser per announced AIT PID (kNoPid for a file of sections).
     const std::map<uint16_t, std::unique_ptr<TCAITParser>>& Aits() const { return m_aits; }
 
+    const TCDVBSGTParser* Sgt() const { return m_sgt.get(); }
     // The PSIP tables on the base PID, with an ATSC country.
     const AtscTables& Atsc() const { return *m_atsc; }
 
 private:
-    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit, Bat, Cat, Ait };
+    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit, Bat, Cat, Ait, Sgt };
 
     Kind m_KindOf(uint16_t pid, uint8_t tableId) const;
     // As above, deciding a shared table id of a file of sections by country and section shape.
@@ -143,6 +145,7 @@ private:
     // Streams of type 0x05 whose PMT entry has an application signalling descriptor.
     std::set<uint16_t> m_aitPids;
     std::map<uint16_t, std::unique_ptr<TCAITParser>> m_aits;
+    std::unique_ptr<TCDVBSGTParser> m_sgt;
     std::unique_ptr<AtscTables> m_atsc;
 
     // Without PIDs, the kind that sections of a shared table id went to.

@@ -1,0 +1,95 @@
+#ifndef ZUM_FUZZ_READOPERATORFIELDS_H
+#define ZUM_FUZZ_READOPERATORFIELDS_H
+
+// Reads the accessors of the operators' private descriptors, which walk
+// their raw copy on access.
+
+#include <list>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <zum-platform/UnicodeConverter.h>
+
+#include "operators/DescAstraServiceListName.h"
+#include "operators/DescCIPlusService.h"
+#include "operators/DescDSmartIdentifier.h"
+#include "operators/DescGTPLGenreList.h"
+#include "operators/DescTelekomGrid.h"
+#include "operators/DescTricolorRegionName.h"
+#include "operators/DescUKDTTServiceAttribute.h"
+
+namespace fuzzfields {
+
+inline volatile size_t g_sinkOperator;
+
+template <class Obj, class Copy>
+void OperatorText(const Obj& d, Copy copy)
+{
+    unsigned char buffer[256];
+    for (unsigned char size : {0, 3, 255}) {
+        unsigned char inOut = size;
+        g_sinkOperator += (d.*copy)(buffer, inOut) + inOut;
+    }
+}
+
+inline void ReadOperator(TCBaseDesc* desc)
+{
+    if (auto* d = dynamic_cast<TCDescDSmartIdentifier*>(desc)) {
+        std::vector<TCDescDSmartIdentifier::TSIdentifierInfo> list;
+        d->GetIdentifierInfoList(list);
+        for (const auto& i : list)
+            g_sinkOperator += i.id + i.data.back();
+    }
+    if (auto* d = dynamic_cast<TCDescGTPLGenreList*>(desc))
+        for (const auto& g : d->GetGenreMap())
+            g_sinkOperator += g.second.nameLength ? g.second.name[g.second.nameLength - 1] : 0;
+    if (auto* d = dynamic_cast<TCDescGTPLGenreOfService*>(desc))
+        g_sinkOperator += d->GetGenreListOfService().size();
+    if (auto* d = dynamic_cast<TCDescTelekomGrid*>(desc)) {
+        std::set<unsigned short> ids;
+        d->GetServiceIDSet(ids);
+        for (unsigned short id : ids) {
+            std::list<unsigned short> positions;
+            g_sinkOperator += d->GetGridPositionList(id, positions);
+        }
+    }
+    if (auto* d = dynamic_cast<TCDescUKDTTServiceAttribute*>(desc))
+        for (unsigned short id : {0, 1, 0xFFFF})
+            g_sinkOperator += d->NumericSelectionFlag(id) + d->VisibleServiceFlag(id) + d->NumOfDescLoop();
+    if (auto* d = dynamic_cast<TCDescCIPlusContentLabel*>(desc))
+        OperatorText(*d, &TCDescCIPlusContentLabel::ContentLabel);
+    if (auto* d = dynamic_cast<TCDescCIPlusProtection*>(desc))
+        g_sinkOperator += d->GetCiCamBrandIdentifier().size() + d->GetPrivateData().size();
+    if (auto* d = dynamic_cast<TCDescCIPlusService*>(desc)) {
+        OperatorText(*d, &TCDescCIPlusService::ServiceName);
+        OperatorText(*d, &TCDescCIPlusService::ServiceProviderName);
+    }
+    if (auto* d = dynamic_cast<TCDescCICAMVirtualChannel*>(desc))
+        g_sinkOperator += d->ServiceProviderName().size() + d->ServiceName().size() + d->EventInformation().size() +
+                          d->AppDomainIdentifier().size();
+    if (auto* d = dynamic_cast<TCDescTricolorBouquetList*>(desc))
+        g_sinkOperator += d->ContainsServiceID(1);
+    if (auto* d = dynamic_cast<TCDescTricolorRegionName*>(desc)) {
+        TCDescTricolorRegionName::RegionData region;
+        for (int i = -1; d->GetRegionData(i + 1, region); ++i)
+            g_sinkOperator += region.key.size() + region.name.size();
+    }
+    if (auto* d = dynamic_cast<TCDescTricolorListType*>(desc))
+        g_sinkOperator += d->GetListTypes().size();
+    if (auto* d = dynamic_cast<TCDescAstraServiceListName*>(desc)) {
+        TCUnicodeConverter converter{ZUMHandle()};
+        ELanguage language;
+        g_sinkOperator += d->GetName(converter, language).size();
+    }
+    if (auto* d = dynamic_cast<TCDescAstraBouquetList*>(desc)) {
+        std::list<unsigned char*> names;
+        if (d->Bouquets(names))
+            for (unsigned char* name : names)
+                g_sinkOperator += std::string(reinterpret_cast<char*>(name)).size();
+    }
+}
+
+} // namespace fuzzfields
+
+#endif
