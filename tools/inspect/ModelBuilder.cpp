@@ -12,6 +12,7 @@
 #include "dvb/DescService.h"
 #include "inspect/Describers.h"
 #include "inspect/EwsView.h"
+#include "inspect/IsdbView.h"
 #include "inspect/Router.h"
 #include "inspect/SitView.h"
 #include "inspect/TableIds.h"
@@ -321,7 +322,9 @@ Json Builder::Summary() const
                 versions = counts->second.versions;
             tables.push_back({{"pid", PidValue(pid)},
                               {"tableId", HexId(tableId)},
-                              {"table", parser == "TCEWSParser" ? "emergency warning" : TableName(pid, tableId)},
+                              {"table", parser == "TCEWSParser"            ? "emergency warning"
+                                        : !IsdbTableName(parser).empty() ? IsdbTableName(parser)
+                                                                          : TableName(pid, tableId)},
                               {"parser", parser.empty() ? Json(nullptr) : Json(parser)},
                               {"sections", sections != p.sectionsByTable.end() ? sections->second : 0},
                               {"versions", versions},
@@ -353,6 +356,7 @@ Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContex
             {"tot", b.Tot()},
             {"lcn", b.Lcn()},
             {"ews", EwsModel(router, b.text)},
+            {"isdb", router.Isdb().Model(b.text)},
             {"sit", DescribeSit(router.Sit(), b.text)},
             {"summary", b.Summary()}};
 }

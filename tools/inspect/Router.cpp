@@ -57,7 +57,10 @@ bool AllValid(const Range& range, Valid valid)
 
 } // namespace
 
-Router::Router(const ZUMHandle& handle, bool allPids) : m_handle(handle), m_allPids(allPids), m_events(handle) {}
+Router::Router(const ZUMHandle& handle, bool allPids)
+    : m_handle(handle), m_allPids(allPids), m_events(handle), m_isdb(std::make_unique<IsdbTables>(handle))
+{
+}
 
 Router::~Router() = default;
 
@@ -65,7 +68,7 @@ bool Router::Wants(uint16_t pid) const
 {
     return m_allPids || pid == kPidPat || pid == kPidNit || pid == kPidSdt || pid == kPidEit || pid == kPidTime ||
            pid == kPidSit || pid == kNoPid || m_pmtPids.count(pid) > 0 || pid == m_networkPid ||
-           m_privateSectionPids.count(pid) > 0;
+           m_privateSectionPids.count(pid) > 0 || m_isdb->Wants(pid);
 }
 
 Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
@@ -88,7 +91,7 @@ Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
     if (IsEit(tableId) && (pid == kPidEit || (any && tableId != kTidLcn)))
     // 0x85 is a compressed EIT on the EIT PID and the channel number table
     // anywhere else; without a PID the section decides (m_KindOfSection).
-    if (IsEit(tableId) && (pid == kPidEit || (any && !IsCompressedEitRange(tableId))))
+    if (IsEit(tableId) && (pid == kPidEit || IsIsdbEitPid(m_handle, pid) || (any && !IsCompressedEitRange(tableId))))
         return Kind::Eit;
     if (tableId == 0x70 && (any || pid == kPidTime))
         return Kind::Tdt;
@@ -153,8 +156,11 @@ void Router::OnSection(uint16_t pid, const uint8_t* section, size_t size)
     if ((section[1] & 0x80) != 0 && size >= 8)
         counts.versions.insert((section[5] >> 1) & 0x1F);
 
+    m_isdb->Learn(pid, section, size);
     const Kind kind = m_KindOfSection(pid, section, size);
     TCSectionParser* parser = m_Parser(kind, tableId);
+    if (parser == nullptr)
+        parser = m_isdb->ParserFor(pid, tableId);
     if (parser == nullptr) {
         ++counts.noParser;
         ++m_noParser;
@@ -217,7 +223,7 @@ std::string Router::ParserName(uint16_t pid, uint8_t tableId) const
     case Kind::Sit: return "TCSITParser";
     case Kind::None: break;
     }
-    return std::string();
+    return m_isdb->ParserName(pid, tableId);
 }
 
 std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
@@ -261,7 +267,7 @@ std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
     case Kind::Sit: return m_sit && m_sit->IsRecv();
     case Kind::None: break;
     }
-    return std::nullopt;
+    return m_isdb->Complete(pid, tableId);
 }
 
 } // namespace zuminspect

@@ -23,6 +23,7 @@
 #include <zum-platform/ZUMHandle.h>
 
 #include "inspect/EitCollector.h"
+#include "inspect/IsdbView.h"
 
 class TCSectionParser;
 class TCPATParser;
@@ -90,6 +91,8 @@ public:
     const std::set<uint16_t>& EwsPids() const { return m_ewsPids; }
 
     const TCSITParser* Sit() const { return m_sit.get(); }
+    // The ISDB tables of an ISDB receiver (BIT, NBIT, LDT, PCAT, SDTT, CDT, ECM, EMM).
+    const IsdbTables& Isdb() const { return *m_isdb; }
 
 private:
     enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit };
@@ -123,6 +126,7 @@ private:
     std::set<uint16_t> m_privateSectionPids; // streams of type 0x05 in a PMT
     std::set<uint16_t> m_ewsPids;
     std::unique_ptr<TCSITParser> m_sit;
+    std::unique_ptr<IsdbTables> m_isdb;
 
     // Without PIDs, the kind that sections of a shared table id went to.
     std::map<uint8_t, Kind> m_sharedKinds;
