@@ -26,6 +26,8 @@ zum_platform::BinderSettings BinderSettingsFor(const InspectSettings& settings)
     binder.operatorId = settings.operatorId;
     binder.privateDataSpecifier = settings.privateDataSpecifier;
     binder.languageCode = ZumPackCode(settings.language.c_str());
+    // The viewer reads North American text in the receiver's language.
+    binder.preferredLanguage = binder.languageCode;
     return binder;
 }
 
