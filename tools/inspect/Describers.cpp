@@ -38,6 +38,8 @@
 #include "operators/DescLogicalChannelV2.h"
 #include "psi/DescCA.h"
 
+#include "inspect/Names.h"
+
 namespace zuminspect {
 
 namespace {
@@ -45,6 +47,17 @@ namespace {
 // Runs a copy accessor of the library into a buffer of the announced length
 // and decodes what it wrote. `copy(buffer, &size)` follows the library's
 // contract: capacity in, bytes written out.
+// The descriptor as sent, tag and length first; empty when it cannot be copied.
+std::vector<unsigned char> RawBytes(const TCBaseDesc& desc)
+{
+    std::vector<unsigned char> raw(static_cast<size_t>(std::max(desc.Length(), 0)));
+    int size = static_cast<int>(raw.size());
+    if (raw.empty() || !desc.GetDescriptor(raw.data(), &size) || size <= 0)
+        return {};
+    raw.resize(std::min(raw.size(), static_cast<size_t>(size)));
+    return raw;
+}
+
 template <class Char, class Size, class Copy>
 std::string CopiedText(const TextDecoder& text, long length, Copy copy)
 {
@@ -86,6 +99,7 @@ Json MultilingualBouquetName(const TCDescMultilingualBouquetName& d, const TextD
 Json Service(const TCDescService& d, const TextDecoder& text)
 {
     return {{"serviceType", d.ServiceType()},
+            {"serviceTypeName", ServiceTypeName(d.ServiceType(), text.System())},
             {"provider", CopiedText<unsigned char, unsigned short>(text, d.ServiceProviderNameLength(),
                                                                    [&](auto* b, auto* s) {
                                                                        return d.ServiceProviderNameText(b, *s);
@@ -95,11 +109,13 @@ Json Service(const TCDescService& d, const TextDecoder& text)
              })}};
 }
 
-Json ServiceList(const TCDescServiceList& d, const TextDecoder&)
+Json ServiceList(const TCDescServiceList& d, const TextDecoder& text)
 {
     Json services = Json::array();
     for (int i = 0; i < d.NumberOfLoop(); ++i)
-        services.push_back({{"serviceId", d.ServiceId(i)}, {"serviceType", d.ServiceType(i)}});
+        services.push_back({{"serviceId", d.ServiceId(i)},
+                            {"serviceType", d.ServiceType(i)},
+                            {"serviceTypeName", ServiceTypeName(d.ServiceType(i), text.System())}});
     return {{"services", services}};
 }
 
@@ -141,11 +157,11 @@ Json MultilingualServiceName(const TCDescMultilingualServiceName& d, const TextD
 
 // ---- delivery systems ------------------------------------------------------
 
-// A frequency that the stream sends as all ones is marked "not given".
+// A frequency that the stream sends as all ones is not given: null, which the tree shows as "not given".
 template <class T>
 Json FrequencyOrNotGiven(T value, bool notGiven)
 {
-    return notGiven ? Json("not given") : Json(value);
+    return notGiven ? Json(nullptr) : Json(value);
 }
 
 // Whether the four payload bytes from `at` of the raw descriptor are all ones.
@@ -160,31 +176,59 @@ bool AllOnesAt(const TCBaseDesc& d, int at)
 
 Json SatelliteDelivery(const TCDescSatelliteDeliverySystem& d, const TextDecoder&)
 {
-    return {{"frequencyKHz", FrequencyOrNotGiven(d.Frequency(), AllOnesAt(d, 0))},
-            {"symbolRateKsps", d.SymbolRate()},
-            {"orbitalPosition", d.OrbitalPosition()}, {"east", d.WestEastFlag() != 0},
-            {"polarization", d.Polarization()},       {"modulation", d.Modulation()},
-            {"fecInner", d.FecInner()}};
+    Json out = {{"frequencyKHz", FrequencyOrNotGiven(d.Frequency(), AllOnesAt(d, 0))},
+                {"symbolRateKsps", d.SymbolRate()},
+                {"orbitalPosition", d.OrbitalPosition()},
+                {"east", d.WestEastFlag() != 0},
+                {"polarization", d.Polarization()},
+                {"modulation", d.Modulation()},
+                {"modulationName", FrontEndModulationName(d.Modulation())},
+                {"fecInner", d.FecInner()},
+                {"fecInnerName", FrontEndCodeRateName(d.FecInner())}};
+    // The library keeps one polarisation bit and neither roll-off nor system: the byte as sent tells them.
+    const std::vector<unsigned char> raw = RawBytes(d);
+    if (raw.size() > 8) {
+        const unsigned char flags = raw[8];
+        out["polarizationName"] = PolarisationName((flags >> 5) & 0x03);
+        out["modulationSystem"] = (flags >> 2) & 0x01;
+        out["modulationSystemName"] = SatelliteModulationSystemName((flags >> 2) & 0x01);
+        if ((flags & 0x04) != 0) {
+            out["rollOff"] = (flags >> 3) & 0x03;
+            out["rollOffName"] = RollOffName((flags >> 3) & 0x03);
+        }
+    }
+    return out;
 }
 
 Json CableDelivery(const TCDescCableDeliverySystem& d, const TextDecoder&)
 {
     return {{"frequencyKHz", FrequencyOrNotGiven(d.Frequency(), AllOnesAt(d, 0))},
             {"modulation", d.ModulationCode()},
+            {"modulationName", CableModulationName(d.ModulationCode())},
             {"symbolRateKsps", d.SymbolRate()},
-            {"fecOuter", d.FecOuter()},      {"fecInner", d.FecInner()}};
+            {"fecOuter", d.FecOuter()},
+            {"fecOuterName", OuterFecName(d.FecOuter())},
+            {"fecInner", d.FecInner()},
+            {"fecInnerName", InnerFecName(d.FecInner())}};
 }
 
 Json TerrestrialDelivery(const TCDescTerrestrialDeliverySystem& d, const TextDecoder&)
 {
     return {{"centreFrequencyHz", FrequencyOrNotGiven(10ULL * d.CentreFrequency(), d.CentreFrequency() == 0xFFFFFFFF)},
             {"bandwidth", d.Bandwidth()},
+            {"bandwidthName", TerrestrialBandwidthName(d.Bandwidth())},
             {"constellation", d.Constellation()},
+            {"constellationName", ConstellationName(d.Constellation())},
             {"hierarchy", d.Hierarchy()},
+            {"hierarchyName", HierarchyName(d.Hierarchy())},
             {"codeRateHP", d.CodeRateHP()},
+            {"codeRateHPName", TerrestrialCodeRateName(d.CodeRateHP())},
             {"codeRateLP", d.CodeRateLP()},
+            {"codeRateLPName", TerrestrialCodeRateName(d.CodeRateLP())},
             {"guardInterval", d.GuardInterval()},
+            {"guardIntervalName", GuardIntervalName(d.GuardInterval())},
             {"transmissionMode", d.TransmissionMode()},
+            {"transmissionModeName", TransmissionModeName(d.TransmissionMode())},
             {"otherFrequency", d.OtherFrequencyFlag() != 0}};
 }
 
@@ -202,9 +246,13 @@ Json T2Delivery(const TCDescT2SystemDelivery& d, const TextDecoder&)
     return {{"plpId", d.PlpId()},
             {"t2SystemId", d.T2SystemId()},
             {"sisoMiso", d.SisoMiso()},
+            {"sisoMisoName", SisoMisoName(d.SisoMiso())},
             {"bandwidth", d.Bandwidth()},
+            {"bandwidthName", FrontEndBandwidthName(d.Bandwidth())},
             {"guardInterval", d.GuardInterval()},
+            {"guardIntervalName", T2GuardIntervalName(d.GuardInterval())},
             {"transmissionMode", d.TransmissionMode()},
+            {"transmissionModeName", T2TransmissionModeName(d.TransmissionMode())},
             {"otherFrequency", d.OtherFrequencyFlag() != 0},
             {"tfs", d.TfsFlag() != 0},
             {"cells", cellList}};
@@ -254,6 +302,7 @@ Json Component(const TCDescComponent& d, const TextDecoder& text)
     return {{"streamContent", d.StreamContent()},
             {"streamContentExt", d.StreamContentExt()},
             {"componentType", d.ComponentType()},
+            {"componentTypeName", ComponentName(d.StreamContent(), d.StreamContentExt(), d.ComponentType())},
             {"componentTag", d.ComponentTag()},
             {"language", CodeText(d.Language())},
             {"text", CopiedText<char, int>(text, d.TextLength(), [&](auto* b, auto* s) { return d.TextChar(b, s); })}};
@@ -276,12 +325,14 @@ Json StreamIdentifier(const TCDescStreamIdentifier& d, const TextDecoder&)
     return {{"componentTag", d.ComponentTag()}};
 }
 
-Json Content(const TCDescContent& d, const TextDecoder&)
+Json Content(const TCDescContent& d, const TextDecoder& text)
 {
     Json entries = Json::array();
     for (int i = 0; i < d.Count(); ++i)
         entries.push_back({{"level1", d.ContentNibbleLevel1(i)},
+                           {"level1Name", ContentName(d.ContentNibbleLevel1(i), text.System())},
                            {"level2", d.ContentNibbleLevel2(i)},
+                           {"level2Name", ContentName(d.ContentNibbleLevel1(i), d.ContentNibbleLevel2(i), text.System())},
                            {"user1", d.UserNibble1(i)},
                            {"user2", d.UserNibble2(i)}});
     return {{"entries", entries}};
@@ -291,7 +342,9 @@ Json ParentalRating(const TCDescParentalRating& d, const TextDecoder&)
 {
     Json ratings = Json::array();
     for (int i = 0; i < d.Count(); ++i)
-        ratings.push_back({{"country", CodeText(d.CountryCode(i))}, {"rating", d.Rating(i)}});
+        ratings.push_back({{"country", CodeText(d.CountryCode(i))},
+                           {"rating", d.Rating(i)},
+                           {"ratingName", ParentalRatingName(d.Rating(i))}});
     return {{"ratings", ratings}};
 }
 
@@ -304,7 +357,9 @@ Json Language(const TCDescLanguage& d, const TextDecoder&)
         ELanguageCode language = 0;
         EAudioType audioType = AUDIO_TYPE_UNDEFINED;
         if (d.Language(i, &language, &audioType))
-            languages.push_back({{"language", CodeText(language)}, {"audioType", static_cast<int>(audioType)}});
+            languages.push_back({{"language", CodeText(language)},
+                                 {"audioType", static_cast<int>(audioType)},
+                                 {"audioTypeName", AudioTypeName(static_cast<unsigned>(audioType))}});
     }
     return {{"languages", languages}};
 }
@@ -315,6 +370,7 @@ Json Teletext(const TCDescTeletext& d, const TextDecoder&)
     for (int i = 0; i < d.Count(); ++i)
         pages.push_back({{"language", CodeText(d.Iso639LangCode(i))},
                          {"type", d.TeletextType(i)},
+                         {"typeName", TeletextTypeName(d.TeletextType(i))},
                          {"magazine", d.TeletextMagzineNumber(i)},
                          {"page", d.TeletextPageNumber(i)}});
     return {{"pages", pages}};
@@ -326,6 +382,7 @@ Json Subtitling(const TCDescSubtitling& d, const TextDecoder&)
     for (int i = 0; i < d.Count(); ++i)
         subtitles.push_back({{"language", CodeText(d.Iso639LangCode(i))},
                              {"type", d.SubtitlingType(i)},
+                             {"typeName", ComponentName(0x3, 0, d.SubtitlingType(i))},
                              {"compositionPageId", d.CompositionPageId(i)},
                              {"ancillaryPageId", d.AncillaryPageId(i)}});
     return {{"subtitles", subtitles}};
@@ -364,9 +421,12 @@ Json PrivateDataSpecifier(const TCDescPrivateDataSpecifier& d, const TextDecoder
 Json CAIdentifier(const TCDescCAIdentifier& d, const TextDecoder&)
 {
     Json ids = Json::array();
-    for (unsigned short id : d.CASystemIds())
+    Json names = Json::array();
+    for (unsigned short id : d.CASystemIds()) {
         ids.push_back(Hex(id, 4));
-    return {{"caSystemIds", ids}};
+        names.push_back(CaSystemName(id));
+    }
+    return {{"caSystemIds", ids}, {"caSystemNames", names}};
 }
 
 // ---- logical channels ------------------------------------------------------
@@ -478,11 +538,8 @@ const DescriberTable& Describers()
 
 std::string RawHex(const TCBaseDesc& desc)
 {
-    std::vector<unsigned char> raw(static_cast<size_t>(desc.Length()));
-    int size = static_cast<int>(raw.size());
-    if (raw.empty() || !desc.GetDescriptor(raw.data(), &size) || size <= 0)
-        return std::string();
-    return HexBytes(raw.data(), std::min(raw.size(), static_cast<size_t>(size)));
+    const std::vector<unsigned char> raw = RawBytes(desc);
+    return HexBytes(raw.data(), raw.size());
 }
 
 } // namespace

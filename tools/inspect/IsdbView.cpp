@@ -369,16 +369,6 @@ Json IsdbTables::Model(const TextDecoder& text) const
             {"cdt", cdt},   {"ecm", ecm},  {"emm", emm},   {"emmMessages", messages}};
 }
 
-std::string IsdbTableName(const std::string& parser)
-{
-    static const std::map<std::string, std::string> names = {
-        {"TCISDBNBITParser", "NBIT"}, {"TCISDBLDTParser", "LDT"}, {"TCISDBPCATParser", "PCAT"},
-        {"TCISDBBITParser", "BIT"},   {"TCSDTTParser", "SDTT"},   {"TCISDBCDTParser", "CDT"},
-        {"TCISDBECMParser", "ECM"},   {"TCISDBEMMParser", "EMM"}, {"TCISDBEMMMessageParser", "EMM message"}};
-    const auto it = names.find(parser);
-    return it == names.end() ? std::string() : it->second;
-}
-
 void RenderIsdbTree(const Json& isdb, std::ostream& out)
 {
     if (isdb.is_null())

@@ -90,9 +90,6 @@ private:
     std::unique_ptr<TCISDBEMMMessageParser> m_emmMessages;
 };
 
-// The table's name where one of these parsers serves it; empty otherwise.
-std::string IsdbTableName(const std::string& parser);
-
 void RenderIsdbTree(const Json& isdb, std::ostream& out);
 
 } // namespace zuminspect
