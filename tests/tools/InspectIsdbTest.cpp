@@ -94,7 +94,7 @@ TEST(InspectIsdb, BitPacketsInErrorReachNoParser)
     EXPECT_EQ(summary["table"], "BIT");
     EXPECT_EQ(summary["sections"], 1);
     EXPECT_EQ(summary["complete"], true);
-    EXPECT_NE(tree.find("BIT  originalNetworkId: 4"), std::string::npos) << tree;
+    EXPECT_NE(tree.find("BIT  originalNetworkId: 0x0004"), std::string::npos) << tree;
 
     // A DVB receiver filters no such PID.
     EXPECT_TRUE(Inspect(stream, "GBR")["isdb"].is_null());

@@ -143,9 +143,10 @@ IsdbTables::Kind IsdbTables::m_KindOf(uint16_t pid, uint8_t tableId) const
     case 0xC4: return any || pid == kPidBit ? Kind::Bit : Kind::None;
     case 0xC3: return any || pid == kPidSdtt ? Kind::Sdtt : Kind::None;
     case 0xC8: return any || pid == kPidCdt ? Kind::Cdt : Kind::None;
-    case 0x82: return any || m_ecmPids.count(pid) > 0 ? Kind::Ecm : Kind::None;
-    case 0x84: return any || m_emmPids.count(pid) > 0 ? Kind::Emm : Kind::None;
-    case 0x85: return any || m_emmPids.count(pid) > 0 ? Kind::EmmMessage : Kind::None;
+    // Only the PIDs that a PMT or the CAT names carry them: a file of sections has none.
+    case 0x82: return m_ecmPids.count(pid) > 0 ? Kind::Ecm : Kind::None;
+    case 0x84: return m_emmPids.count(pid) > 0 ? Kind::Emm : Kind::None;
+    case 0x85: return m_emmPids.count(pid) > 0 ? Kind::EmmMessage : Kind::None;
     default: return Kind::None;
     }
 }
