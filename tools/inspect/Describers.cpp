@@ -31,6 +31,7 @@
 #include "dvb/DescServiceMove.h"
 #include "dvb/DescShortEvent.h"
 #include "dvb/DescT2SystemDelivery.h"
+#include "inspect/AvView.h"
 #include "inspect/EwsView.h"
 #include "isdb/DescEmergencyInformation.h"
 #include "operators/DescLogicalChannel.h"
@@ -563,6 +564,8 @@ Json DescribeDescriptor(const TCBaseDesc& desc, const TextDecoder& text)
         out["fields"] = describer->second(desc, text);
     else if (std::optional<Json> atsc = DescribeAtscDescriptor(desc))
         out["fields"] = *atsc;
+    else if (Json av = DescribeAvDescriptor(desc); !av.is_null())
+        out["fields"] = av;
     else
         out["raw"] = RawHex(desc);
     return out;
