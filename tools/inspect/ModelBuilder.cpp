@@ -17,6 +17,7 @@
 #include "inspect/Describers.h"
 #include "inspect/AitView.h"
 #include "inspect/EwsView.h"
+#include "inspect/IsdbView.h"
 #include "inspect/Format.h"
 #include "inspect/Names.h"
 #include "inspect/Router.h"
@@ -413,6 +414,7 @@ Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContex
             {"tot", b.Tot()},
             {"lcn", b.Lcn()},
             {"ews", EwsModel(router, b.text)},
+            {"isdb", router.Isdb().Model(b.text)},
             {"sit", DescribeSit(router.Sit(), b.text)},
             {"ait", AitModel(router, b.text)},
             {"sgt", DescribeSgt(router.Sgt(), b.text)},

@@ -6,6 +6,7 @@
 
 #include "inspect/AitView.h"
 #include "inspect/EwsView.h"
+#include "inspect/IsdbView.h"
 #include "inspect/AtscView.h"
 #include "inspect/Format.h"
 #include "inspect/OperatorsView.h"
@@ -310,6 +311,7 @@ void RenderTree(const Json& model, std::ostream& out)
     tree.Times(part("tdt"), part("tot"));
     tree.Lcn(part("lcn"));
     RenderEwsTree(part("ews"), out);
+    RenderIsdbTree(part("isdb"), out);
     tree.Sit(part("sit"));
     RenderAitTree(part("ait"), out);
     RenderSgtTree(part("sgt"), out);

@@ -65,8 +65,11 @@ bool AllValid(const Range& range, Valid valid)
 
 } // namespace
 
-Router::Router(const ZUMHandle& handle, bool allPids) : m_handle(handle), m_allPids(allPids), m_events(handle),
-      m_atsc(new AtscTables(handle)) {}
+Router::Router(const ZUMHandle& handle, bool allPids)
+    : m_handle(handle), m_allPids(allPids), m_events(handle), m_atsc(new AtscTables(handle)),
+      m_isdb(std::make_unique<IsdbTables>(handle))
+{
+}
 
 Router::~Router() = default;
 
@@ -74,7 +77,7 @@ bool Router::Wants(uint16_t pid) const
 {
     return m_allPids || pid == kPidPat || pid == kPidCat || pid == kPidNit || pid == kPidSdt || pid == kPidEit ||
            pid == kPidTime || pid == kPidSit || pid == kNoPid || m_pmtPids.count(pid) > 0 || pid == m_networkPid ||
-           m_privateSectionPids.count(pid) > 0 || m_atsc->Wants(pid);
+           m_privateSectionPids.count(pid) > 0 || m_atsc->Wants(pid) || m_isdb->Wants(pid);
 }
 
 Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
@@ -104,7 +107,7 @@ Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
     if (IsEit(tableId) && (pid == kPidEit || (any && tableId != kTidLcn)))
     // 0x85 is a compressed EIT on the EIT PID and the channel number table
     // anywhere else; without a PID the section decides (m_KindOfSection).
-    if (IsEit(tableId) && (pid == kPidEit || (any && !IsCompressedEitRange(tableId))))
+    if (IsEit(tableId) && (pid == kPidEit || IsIsdbEitPid(m_handle, pid) || (any && !IsCompressedEitRange(tableId))))
         return Kind::Eit;
     if (tableId == 0x70 && (any || pid == kPidTime))
         return Kind::Tdt;
@@ -177,12 +180,15 @@ void Router::OnSection(uint16_t pid, const uint8_t* section, size_t size)
     if ((section[1] & 0x80) != 0 && size >= 8)
         counts.versions.insert((section[5] >> 1) & 0x1F);
 
+    m_isdb->Learn(pid, section, size);
     const Kind kind = m_KindOfSection(pid, section, size);
     // Each AIT PID carries the table of its own service: one parser per PID.
     TCSectionParser* parser =
         kind == Kind::Ait ? Lazy(m_aits[pid], static_cast<int>(tableId), m_handle) : m_Parser(kind, tableId);
     if (parser == nullptr)
         parser = m_atsc->Parser(pid, tableId);
+    if (parser == nullptr)
+        parser = m_isdb->ParserFor(pid, tableId);
     if (parser == nullptr) {
         ++counts.noParser;
         ++m_noParser;
@@ -254,7 +260,8 @@ std::string Router::ParserName(uint16_t pid, uint8_t tableId) const
     case Kind::Sgt: return "TCDVBSGTParser";
     case Kind::None: break;
     }
-    return m_atsc->ParserName(pid, tableId);
+    const std::string atsc = m_atsc->ParserName(pid, tableId);
+    return !atsc.empty() ? atsc : m_isdb->ParserName(pid, tableId);
 }
 
 std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
@@ -315,7 +322,9 @@ std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
     case Kind::Sgt: return m_sgt && m_sgt->AllSubtablesReceived();
     case Kind::None: break;
     }
-    return m_atsc->Complete(pid, tableId);
+    if (const std::optional<bool> atsc = m_atsc->Complete(pid, tableId))
+        return atsc;
+    return m_isdb->Complete(pid, tableId);
 }
 
 } // namespace zuminspect

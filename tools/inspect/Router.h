@@ -23,6 +23,7 @@
 #include <zum-platform/ZUMHandle.h>
 
 #include "inspect/EitCollector.h"
+#include "inspect/IsdbView.h"
 
 class TCSectionParser;
 class TCPATParser;
@@ -107,6 +108,8 @@ public:
     const TCDVBSGTParser* Sgt() const { return m_sgt.get(); }
     // The PSIP tables on the base PID, with an ATSC country.
     const AtscTables& Atsc() const { return *m_atsc; }
+    // The ISDB tables of an ISDB receiver (BIT, NBIT, LDT, PCAT, SDTT, CDT, ECM, EMM).
+    const IsdbTables& Isdb() const { return *m_isdb; }
 
 private:
     enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit, Bat, Cat, Ait, Sgt };
@@ -147,6 +150,7 @@ private:
     std::map<uint16_t, std::unique_ptr<TCAITParser>> m_aits;
     std::unique_ptr<TCDVBSGTParser> m_sgt;
     std::unique_ptr<AtscTables> m_atsc;
+    std::unique_ptr<IsdbTables> m_isdb;
 
     // Without PIDs, the kind that sections of a shared table id went to.
     std::map<uint8_t, Kind> m_sharedKinds;

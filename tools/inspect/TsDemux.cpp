@@ -206,12 +206,14 @@ void TsDemux::m_Packet(const uint8_t* packet)
     const unsigned adaptation = (packet[3] >> 4) & 0x03;
     const int cc = packet[3] & 0x0F;
     if (transportError) {
-        // The section in progress has a hole now; what starts in this packet
-        // may still be whole, and its CRC_32 will tell.
+        // Nothing of a packet flagged in error reaches a parser: the section in
+        // progress has a hole now, and a section starting here may be corrupt
+        // where no CRC_32 would tell. The next packet sets the counter's reference.
         ++stats.transportErrors;
         ++m_stats.transportErrors;
         m_Drop(state, stats);
         state.lastCc = -1;
+        return;
     }
     if ((adaptation & 1) == 0)
         return; // reserved, or adaptation field only: no payload, the counter stays
