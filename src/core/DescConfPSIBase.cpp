@@ -9,6 +9,7 @@
 #include "../dvb/DescPrivateDataSpecifier.h"
 #include "../dvb/DescServiceMove.h"
 #include "../isdb/DescEmergencyInformation.h"
+#include "../operators/DescTKGSComponent.h"
 #include "PrivateTag.h"
 
 TCBaseDesc* TCDescConfPSIBase::NewDescriptor(int tag, const unsigned char* /*data*/, unsigned int /*pds*/)
@@ -73,6 +74,7 @@ TCBaseDesc* TCDescConfPsiDVB::m_NewCHNPrivateDesc(int tag, unsigned int /*pds*/)
 TCBaseDesc* TCDescConfPsiDVB::m_NewTKGSPrivateDesc(int tag, unsigned int /*pds*/)
 {
     switch (tag) {
+    case 0x98: return new TCDescTKGSComponent();
     default: return nullptr;
     }
 }
