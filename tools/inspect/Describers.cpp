@@ -30,9 +30,11 @@
 #include "dvb/DescShortEvent.h"
 #include "dvb/DescT2SystemDelivery.h"
 #include "inspect/EwsView.h"
+#include "inspect/TkgsView.h"
 #include "isdb/DescEmergencyInformation.h"
 #include "operators/DescLogicalChannel.h"
 #include "operators/DescLogicalChannelV2.h"
+#include "operators/DescTKGSComponent.h"
 
 namespace zuminspect {
 
@@ -458,6 +460,9 @@ DescriberTable MakeTable()
     Register<TCDescLogicalChannel>(t, LogicalChannel);
     Register<TCDescLogicalChannelV2>(t, LogicalChannelV2);
     Register<TCDescEmergencyInformation>(t, DescribeEmergencyInformation);
+    Register<TCDescTKGSComponent>(t, DescribeTkgsComponent);
+    Register<TCDescTKGSExtendedService>(t, DescribeTkgsExtendedService);
+    Register<TCDescTKGSMultilingualCategoryLabel>(t, DescribeTkgsCategoryLabel);
     return t;
 }
 

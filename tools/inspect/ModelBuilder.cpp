@@ -15,6 +15,7 @@
 #include "inspect/Router.h"
 #include "inspect/SitView.h"
 #include "inspect/TableIds.h"
+#include "inspect/TkgsView.h"
 #include "inspect/TsDemux.h"
 #include "operators/DescLogicalChannel.h"
 #include "psi/PATParser.h"
@@ -85,6 +86,7 @@ std::string TableName(uint16_t pid, uint8_t tableId)
     case 0x73: return "TOT";
     case 0x74: return "AIT";
     case 0xD5: return "SIT";
+    case 0xA7: return "TKGS";
     default: return "";
     }
 }
@@ -354,6 +356,7 @@ Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContex
             {"lcn", b.Lcn()},
             {"ews", EwsModel(router, b.text)},
             {"sit", DescribeSit(router.Sit(), b.text)},
+            {"tkgs", TkgsModel(router, b.text)},
             {"summary", b.Summary()}};
 }
 

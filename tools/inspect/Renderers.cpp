@@ -6,6 +6,7 @@
 
 #include "inspect/EwsView.h"
 #include "inspect/Text.h"
+#include "inspect/TkgsView.h"
 
 namespace zuminspect {
 
@@ -264,6 +265,7 @@ void RenderTree(const Json& model, std::ostream& out)
     tree.Lcn(model["lcn"]);
     RenderEwsTree(model["ews"], out);
     tree.Sit(model["sit"]);
+    RenderTkgsTree(model["tkgs"], out);
     tree.Summary(model["summary"]);
 }
 

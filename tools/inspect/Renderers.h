@@ -29,6 +29,7 @@
 //                      "records": [{"key": [3 numbers], "channelNumber", "visible", "extra"}]},
 //   "ews":     null | the emergency warning table, schema in inspect/EwsView.h,
 //   "sit":     see SitView.h,
+//   "tkgs":    the TKGS channel systems, schema in inspect/TkgsView.h,
 //   "summary": {"demux": {"packetSize", "packets", "syncLosses", "skippedBytes", "truncatedPackets",
 //                         "continuityErrors", "transportErrors", "duplicates", "sections", "crcErrors",
 //                         "droppedSections", "unfinishedSections"},

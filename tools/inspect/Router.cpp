@@ -10,9 +10,11 @@
 #include "dvb/DVBSDTParser.h"
 #include "dvb/DVBTDTParser.h"
 #include "dvb/DVBTOTParser.h"
+#include "dvb/DVBTKGSParser.h"
 #include "inspect/TableIds.h"
 #include "inspect/TsDemux.h"
 #include "isdb/EWSParser.h"
+#include "operators/DescTKGSComponent.h"
 #include "program/SITParser.h"
 #include "psi/PATParser.h"
 #include "psi/PMTParser.h"
@@ -27,6 +29,8 @@ constexpr uint8_t kTidLcn = 0x85;
 constexpr uint8_t kTidEws = 0x80;
 constexpr int kStreamTypePrivateSections = 0x05;
 constexpr uint8_t kTidSit = 0xD5;
+constexpr uint8_t kTidTkgs = 0xA7;
+constexpr int kTagTkgsComponent = 0x98;
 
 bool IsEit(uint8_t tableId)
 {
@@ -65,7 +69,7 @@ bool Router::Wants(uint16_t pid) const
 {
     return m_allPids || pid == kPidPat || pid == kPidNit || pid == kPidSdt || pid == kPidEit || pid == kPidTime ||
            pid == kPidSit || pid == kNoPid || m_pmtPids.count(pid) > 0 || pid == m_networkPid ||
-           m_privateSectionPids.count(pid) > 0;
+           m_privateSectionPids.count(pid) > 0 || m_tkgsPids.count(pid) > 0;
 }
 
 Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
@@ -98,6 +102,9 @@ Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
         return Kind::Lcn;
     if (tableId == kTidSit && (any || pid == kPidSit))
         return Kind::Sit;
+    // TKGS comes on the stream whose PMT entry carries the TKGS component.
+    if (tableId == kTidTkgs && (any || m_allPids || m_tkgsPids.count(pid) > 0))
+        return Kind::Tkgs;
     return Kind::None;
 }
 
@@ -139,6 +146,7 @@ TCSectionParser* Router::m_Parser(Kind kind, uint8_t tableId)
     case Kind::Lcn: return Lazy(m_lcn, m_handle);
     case Kind::Ews: return Lazy(m_ews);
     case Kind::Sit: return Lazy(m_sit, static_cast<int>(tableId), m_handle);
+    case Kind::Tkgs: return Lazy(m_tkgs[m_sectionPid], m_handle);
     case Kind::None: break;
     }
     return nullptr;
@@ -154,6 +162,7 @@ void Router::OnSection(uint16_t pid, const uint8_t* section, size_t size)
         counts.versions.insert((section[5] >> 1) & 0x1F);
 
     const Kind kind = m_KindOfSection(pid, section, size);
+    m_sectionPid = pid;
     TCSectionParser* parser = m_Parser(kind, tableId);
     if (parser == nullptr) {
         ++counts.noParser;
@@ -174,7 +183,7 @@ void Router::OnSection(uint16_t pid, const uint8_t* section, size_t size)
     else if (kind == Kind::Lcn)
         m_lcnPids.insert(pid);
     else if (kind == Kind::Pmt)
-        m_LearnPrivateSectionPids();
+        m_LearnPrivateSectionPids(), m_LearnTkgsPids();
     else if (kind == Kind::Ews)
         m_ewsPids.insert(pid);
 }
@@ -187,6 +196,22 @@ void Router::m_LearnPrivateSectionPids()
             const TCPMTElementary* stream = program->PMTElementary(static_cast<unsigned>(k));
             if (stream->StreamType() == kStreamTypePrivateSections)
                 m_privateSectionPids.insert(static_cast<uint16_t>(stream->ElementaryPID() & 0x1FFF));
+        }
+    }
+}
+
+void Router::m_LearnTkgsPids()
+{
+    for (int i = 0; i < m_pmt->NumOfPMTInstance(); ++i) {
+        const TCPMTInstance* program = m_pmt->PMTInstanceOfIndex(static_cast<unsigned>(i));
+        for (int k = 0; k < program->NumOfElementary(); ++k) {
+            const TCPMTElementary* stream = program->PMTElementary(static_cast<unsigned>(k));
+            for (int d = 0; d < stream->NumOfDescriptors(kTagTkgsComponent); ++d) {
+                const auto* component = dynamic_cast<const TCDescTKGSComponent*>(
+                    stream->Descriptor(kTagTkgsComponent, static_cast<unsigned>(d)));
+                if (component && component->Found())
+                    m_tkgsPids.insert(static_cast<uint16_t>(stream->ElementaryPID() & 0x1FFF));
+            }
         }
     }
 }
@@ -215,6 +240,7 @@ std::string Router::ParserName(uint16_t pid, uint8_t tableId) const
     case Kind::Lcn: return "TCDVBLCNParser";
     case Kind::Ews: return "TCEWSParser";
     case Kind::Sit: return "TCSITParser";
+    case Kind::Tkgs: return "TCDVBTKGSParser";
     case Kind::None: break;
     }
     return std::string();
@@ -259,6 +285,10 @@ std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
     case Kind::Lcn: return m_lcn && m_lcn->IsRecv();
     case Kind::Ews: return m_ews && m_ews->IsValidTRDW() && m_ews->IsValidTCDW() && m_ews->IsValidTMDW();
     case Kind::Sit: return m_sit && m_sit->IsRecv();
+    case Kind::Tkgs: {
+        const auto it = m_tkgs.find(pid);
+        return it != m_tkgs.end() && it->second->IsComplete();
+    }
     case Kind::None: break;
     }
     return std::nullopt;

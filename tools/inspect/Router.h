@@ -35,6 +35,7 @@ class TCDVBTOTParser;
 class TCDVBLCNParser;
 class TCEWSParser;
 class TCSITParser;
+class TCDVBTKGSParser;
 
 namespace zuminspect {
 
@@ -90,9 +91,11 @@ public:
     const std::set<uint16_t>& EwsPids() const { return m_ewsPids; }
 
     const TCSITParser* Sit() const { return m_sit.get(); }
+    // One TKGS table per PID that a PMT announces with a TKGS component.
+    const std::map<uint16_t, std::unique_ptr<TCDVBTKGSParser>>& Tkgs() const { return m_tkgs; }
 
 private:
-    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit };
+    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit, Tkgs };
 
     Kind m_KindOf(uint16_t pid, uint8_t tableId) const;
     // As above, deciding a shared table id of a file of sections by country and section shape.
@@ -102,6 +105,7 @@ private:
     TCSectionParser* m_Parser(Kind kind, uint8_t tableId);
     void m_LearnPids();
     void m_LearnPrivateSectionPids();
+    void m_LearnTkgsPids();
 
     ZUMHandle m_handle;
     bool m_allPids;
@@ -123,6 +127,9 @@ private:
     std::set<uint16_t> m_privateSectionPids; // streams of type 0x05 in a PMT
     std::set<uint16_t> m_ewsPids;
     std::unique_ptr<TCSITParser> m_sit;
+    std::set<uint16_t> m_tkgsPids;
+    std::map<uint16_t, std::unique_ptr<TCDVBTKGSParser>> m_tkgs;
+    uint16_t m_sectionPid = 0; // the PID of the section in hand
 
     // Without PIDs, the kind that sections of a shared table id went to.
     std::map<uint8_t, Kind> m_sharedKinds;
