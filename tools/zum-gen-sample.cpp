@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "SampleFile.h"
 #include "inspect/TsMux.h"
 #include "support/Crc32.h"
 #include "support/SectionBuilder.h"
@@ -430,22 +431,8 @@ Bytes Sample()
 
 int main(int argc, char** argv)
 {
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: %s OUTPUT   (\"-\" for standard output)\n", argv[0]);
-        return 2;
-    }
-    const Bytes sample = Sample();
-    const std::string path = argv[1];
-    FILE* file = path == "-" ? stdout : std::fopen(path.c_str(), "wb");
-    if (file == nullptr) {
-        std::perror(path.c_str());
-        return 1;
-    }
-    const bool written = std::fwrite(sample.data(), 1, sample.size(), file) == sample.size();
-    const bool closed = file == stdout ? std::fflush(file) == 0 : std::fclose(file) == 0;
-    if (!written || !closed) {
-        std::fprintf(stderr, "%s: write failed\n", path.c_str());
-        return 1;
-    }
-    return 0;
+    return zumtools::WriteSample(argc, argv, [] () -> const Bytes& {
+        static const Bytes sample = Sample();
+        return sample;
+    });
 }
