@@ -399,6 +399,13 @@ TEST_P(InspectCapture, NoSectionLostByTheTool)
         EXPECT_EQ(SectionCounts(model), manifest->second);
         EXPECT_EQ(At(model, "/summary/demux/crcErrors"), 0);
     }
+    if (GetParam() == "tsduck_tsduck__psi_bat_cplus_packets.ts") { // the BAT on the SDT's PID
+        EXPECT_EQ(At(model, "/bats/0/bouquetId"), 0xC003);
+        EXPECT_EQ(Find(model["summary"]["tables"], {{"tableId", "0x4A"}}).value("parser", Json()), "TCDVBBATParser");
+    }
+    if (GetParam() == "tsduck_tsduck__psi_cat_r3_packets.ts") {
+        EXPECT_EQ(At(model, "/cat/descriptors/0/class"), "TCDescCA");
+    }
     if (GetParam() == "tsduck_tsduck-test__test-030.ts") { // PID 0x0112 carries EIT sections damaged on air
         const Json eit = Find(model["summary"]["pids"], {{"pid", 0x0112}});
         EXPECT_GT(eit.at("crcErrors").get<int>() + eit.at("droppedSections").get<int>(), 0);

@@ -16,10 +16,12 @@
 #include "core/BaseDesc.h"
 #include "core/DescriptorContainer.h"
 #include "dvb/DescCAIdentifier.h"
+#include "inspect/AtscView.h"
 #include "dvb/DescComponent.h"
 #include "dvb/DescContent.h"
 #include "dvb/DescCountryAvailability.h"
 #include "dvb/DescLanguage.h"
+#include "dvb/DescLinkage.h"
 #include "dvb/DescLocalTimeOffset.h"
 #include "dvb/DescMultilingualNetworkName.h"
 #include "dvb/DescNetworkName.h"
@@ -33,8 +35,10 @@
 #include "inspect/TkgsView.h"
 #include "isdb/DescEmergencyInformation.h"
 #include "operators/DescLogicalChannel.h"
+#include "inspect/LinkageView.h"
 #include "operators/DescLogicalChannelV2.h"
 #include "operators/DescTKGSComponent.h"
+#include "psi/DescCA.h"
 
 namespace zuminspect {
 
@@ -463,6 +467,11 @@ DescriberTable MakeTable()
     Register<TCDescTKGSComponent>(t, DescribeTkgsComponent);
     Register<TCDescTKGSExtendedService>(t, DescribeTkgsExtendedService);
     Register<TCDescTKGSMultilingualCategoryLabel>(t, DescribeTkgsCategoryLabel);
+    Register<TCDescLinkage>(t, LinkageFields);
+    Register<TCDescDataBroadcast>(t, DataBroadcastFields);
+    Register<TCDescDataBroadcastId>(t, DataBroadcastIdFields);
+    Register<TCDescSSULocation>(t, SSULocationFields);
+    Register<TCDescCA>(t, CAFields);
     return t;
 }
 
@@ -500,6 +509,8 @@ Json DescribeDescriptor(const TCBaseDesc& desc, const TextDecoder& text)
     const auto describer = Describers().find(std::type_index(typeid(desc)));
     if (describer != Describers().end())
         out["fields"] = describer->second(desc, text);
+    else if (std::optional<Json> atsc = DescribeAtscDescriptor(desc))
+        out["fields"] = *atsc;
     else
         out["raw"] = RawHex(desc);
     return out;

@@ -4,12 +4,14 @@
 #include <set>
 
 #include "core/Descriptor.h"
+#include "dvb/DVBBATParser.h"
 #include "dvb/DVBLCNParser.h"
 #include "dvb/DVBNITParser.h"
 #include "dvb/DVBSDTParser.h"
 #include "dvb/DVBTDTParser.h"
 #include "dvb/DVBTOTParser.h"
 #include "dvb/DescService.h"
+#include "inspect/AtscView.h"
 #include "inspect/Describers.h"
 #include "inspect/EwsView.h"
 #include "inspect/Router.h"
@@ -18,6 +20,7 @@
 #include "inspect/TkgsView.h"
 #include "inspect/TsDemux.h"
 #include "operators/DescLogicalChannel.h"
+#include "psi/DVBCATParser.h"
 #include "psi/PATParser.h"
 #include "psi/PMTParser.h"
 
@@ -40,6 +43,8 @@ struct Builder {
     Json Pat() const;
     Json Pmts() const;
     Json Nits() const;
+    Json Bats() const;
+    Json Cat() const;
     Json TransportStream(const TCDVBItemMux& mux) const;
     Json Sdts() const;
     Json SdtService(const TCDVBSDTItemService& service) const;
@@ -87,6 +92,9 @@ std::string TableName(uint16_t pid, uint8_t tableId)
     case 0x74: return "AIT";
     case 0xD5: return "SIT";
     case 0xA7: return "TKGS";
+    case 0xC7: return "MGT";
+    case 0xC8: return "TVCT";
+    case 0xC9: return "CVCT";
     default: return "";
     }
 }
@@ -171,6 +179,34 @@ Json Builder::Nits() const
         }
     }
     return nits;
+}
+
+Json Builder::Bats() const
+{
+    Json bats = Json::array();
+    const TCDVBBATParser* bat = router.Bat();
+    std::list<unsigned short> ids;
+    if (bat != nullptr)
+        bat->BouquetIds(ids);
+    for (unsigned short id : ids) {
+        const TCDVBBATInstance* bouquet = bat->GetInstance(id);
+        Json streams = Json::array();
+        for (int i = 0; i < bouquet->NumOfDVBItemMux(); ++i)
+            streams.push_back(TransportStream(*bouquet->DVBItemMuxOfIndex(static_cast<unsigned>(i))));
+        bats.push_back({{"bouquetId", id},
+                        {"complete", bouquet->IsValid()},
+                        {"descriptors", DescribeLoop(*bouquet, text)},
+                        {"transportStreams", streams}});
+    }
+    return bats;
+}
+
+Json Builder::Cat() const
+{
+    const TCDVBCATParser* cat = router.Cat();
+    if (cat == nullptr)
+        return nullptr;
+    return {{"complete", cat->IsValid()}, {"descriptors", DescribeLoop(*cat, text)}};
 }
 
 Json Builder::SdtService(const TCDVBSDTItemService& service) const
@@ -348,7 +384,9 @@ Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContex
               {"bytes", context.bytes}}},
             {"pat", b.Pat()},
             {"pmts", b.Pmts()},
+            {"cat", b.Cat()},
             {"nits", b.Nits()},
+            {"bats", b.Bats()},
             {"sdts", b.Sdts()},
             {"eit", b.Events()},
             {"tdt", b.Tdt()},
@@ -357,6 +395,7 @@ Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContex
             {"ews", EwsModel(router, b.text)},
             {"sit", DescribeSit(router.Sit(), b.text)},
             {"tkgs", TkgsModel(router, b.text)},
+            {"atsc", DescribeAtsc(router.Atsc(), b.text)},
             {"summary", b.Summary()}};
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "inspect/EwsView.h"
+#include "inspect/AtscView.h"
 #include "inspect/Text.h"
 #include "inspect/TkgsView.h"
 
@@ -118,17 +119,39 @@ public:
         for (const Json& nit : nits) {
             Line(0, "NIT " + nit["tableId"].get<std::string>() + "  network " + HexOr(nit["networkId"], 4));
             Descriptors(1, nit["descriptors"]);
-            for (const Json& ts : nit["transportStreams"]) {
-                Line(1, "transport stream " + HexOr(ts["transportStreamId"], 4) + ", original network " +
+            TransportStreams(1, nit["transportStreams"]);
+        }
+    }
+
+    void TransportStreams(int depth, const Json& streams)
+    {
+        for (const Json& ts : streams) {
+            Line(depth, "transport stream " + HexOr(ts["transportStreamId"], 4) + ", original network " +
                             HexOr(ts["originalNetworkId"], 4));
-                Descriptors(2, ts["descriptors"]);
-                for (const Json& s : ts["services"]) {
-                    const Json& tag = s["channelNumberTag"];
-                    Line(2, "service " + HexOr(s["serviceId"], 4) + "  type " + HexOr(s["serviceType"], 2) +
-                                "  channel " + Value(s["channelNumber"]) +
-                                (tag.is_null() ? "" : " (from " + tag.get<std::string>() + ")"));
-                }
+            Descriptors(depth + 1, ts["descriptors"]);
+            for (const Json& s : ts["services"]) {
+                const Json& tag = s["channelNumberTag"];
+                Line(depth + 1, "service " + HexOr(s["serviceId"], 4) + "  type " + HexOr(s["serviceType"], 2) +
+                                    "  channel " + Value(s["channelNumber"]) +
+                                    (tag.is_null() ? "" : " (from " + tag.get<std::string>() + ")"));
             }
+        }
+    }
+
+    void Cat(const Json& cat)
+    {
+        if (cat.is_null())
+            return;
+        Line(0, "CAT  complete " + Value(cat["complete"]));
+        Descriptors(1, cat["descriptors"]);
+    }
+
+    void Bats(const Json& bats)
+    {
+        for (const Json& bat : bats) {
+            Line(0, "BAT  bouquet " + HexOr(bat["bouquetId"], 4) + ", complete " + Value(bat["complete"]));
+            Descriptors(1, bat["descriptors"]);
+            TransportStreams(1, bat["transportStreams"]);
         }
     }
 
@@ -251,6 +274,11 @@ void RenderObject(const std::string& head, const Json& fields, int depth, std::o
     Tree(out).Object(depth, head, fields);
 }
 
+void RenderDescriptors(const Json& list, int depth, std::ostream& out)
+{
+    Tree(out).Descriptors(depth, list);
+}
+
 void RenderTree(const Json& model, std::ostream& out)
 {
     Tree tree(out);
@@ -258,7 +286,9 @@ void RenderTree(const Json& model, std::ostream& out)
     tree.Line(0, "Input  " + input["kind"].get<std::string>() + ", " + Value(input["bytes"]) + " bytes");
     tree.Pat(model["pat"]);
     tree.Pmts(model["pmts"]);
+    tree.Cat(model["cat"]);
     tree.Nits(model["nits"]);
+    tree.Bats(model["bats"]);
     tree.Sdts(model["sdts"]);
     tree.Events(model["eit"]);
     tree.Times(model["tdt"], model["tot"]);
@@ -266,6 +296,7 @@ void RenderTree(const Json& model, std::ostream& out)
     RenderEwsTree(model["ews"], out);
     tree.Sit(model["sit"]);
     RenderTkgsTree(model["tkgs"], out);
+    RenderAtscTree(model["atsc"], out);
     tree.Summary(model["summary"]);
 }
 

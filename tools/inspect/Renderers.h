@@ -15,6 +15,8 @@
 //                "transportStreams": [{"transportStreamId", "originalNetworkId", "descriptors": [D],
 //                  "services": [{"serviceId", "serviceType", "channelNumber": n|null,
 //                                "channelNumberTag": tag of the answering descriptor|null}]}]}],
+//   "cat":     null | {"complete", "descriptors": [D]},
+//   "bats":    [{"bouquetId", "complete", "descriptors": [D], "transportStreams": [as in "nits"]}],
 //   "sdts":    [{"tableId", "originalNetworkId", "transportStreamId", "version",
 //                "services": [{"serviceId", "type", "provider", "name" (null without a service
 //                  descriptor), "runningStatus", "freeCA", "eitSchedule", "eitPresentFollowing",
@@ -30,6 +32,7 @@
 //   "ews":     null | the emergency warning table, schema in inspect/EwsView.h,
 //   "sit":     see SitView.h,
 //   "tkgs":    the TKGS channel systems, schema in inspect/TkgsView.h,
+//   "atsc":    null | the PSIP tables, see AtscView.h,
 //   "summary": {"demux": {"packetSize", "packets", "syncLosses", "skippedBytes", "truncatedPackets",
 //                         "continuityErrors", "transportErrors", "duplicates", "sections", "crcErrors",
 //                         "droppedSections", "unfinishedSections"},
@@ -57,6 +60,8 @@ void RenderTree(const Json& model, std::ostream& out);
 // One object as the tree shows it: scalars on the head line, lists and
 // objects indented below; for models of other inputs.
 void RenderObject(const std::string& head, const Json& fields, int depth, std::ostream& out);
+// A list of D as tree lines at `depth`.
+void RenderDescriptors(const Json& list, int depth, std::ostream& out);
 
 } // namespace zuminspect
 

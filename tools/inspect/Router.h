@@ -36,10 +36,17 @@ class TCDVBLCNParser;
 class TCEWSParser;
 class TCSITParser;
 class TCDVBTKGSParser;
+class TCDVBBATParser;
+class TCDVBCATParser;
+
+namespace zuminspect {
+class AtscTables;
+}
 
 namespace zuminspect {
 
 constexpr uint16_t kPidPat = 0x0000;
+constexpr uint16_t kPidCat = 0x0001;
 constexpr uint16_t kPidNit = 0x0010;
 constexpr uint16_t kPidSdt = 0x0011;
 constexpr uint16_t kPidEit = 0x0012;
@@ -86,6 +93,8 @@ public:
     const TCDVBTOTParser* Tot() const { return m_tot.get(); }
     const TCDVBLCNParser* Lcn() const { return m_lcn.get(); }
     const std::set<uint16_t>& LcnPids() const { return m_lcnPids; }
+    const TCDVBBATParser* Bat() const { return m_bat.get(); }
+    const TCDVBCATParser* Cat() const { return m_cat.get(); }
     const EitCollector& Events() const { return m_events; }
     const TCEWSParser* Ews() const { return m_ews.get(); }
     const std::set<uint16_t>& EwsPids() const { return m_ewsPids; }
@@ -93,9 +102,11 @@ public:
     const TCSITParser* Sit() const { return m_sit.get(); }
     // One TKGS table per PID that a PMT announces with a TKGS component.
     const std::map<uint16_t, std::unique_ptr<TCDVBTKGSParser>>& Tkgs() const { return m_tkgs; }
+    // The PSIP tables on the base PID, with an ATSC country.
+    const AtscTables& Atsc() const { return *m_atsc; }
 
 private:
-    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit, Tkgs };
+    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit, Bat, Cat, Tkgs };
 
     Kind m_KindOf(uint16_t pid, uint8_t tableId) const;
     // As above, deciding a shared table id of a file of sections by country and section shape.
@@ -121,6 +132,8 @@ private:
     std::unique_ptr<TCDVBTOTParser> m_tot;
     std::unique_ptr<TCDVBLCNParser> m_lcn;
     std::set<uint16_t> m_lcnPids;
+    std::unique_ptr<TCDVBBATParser> m_bat;
+    std::unique_ptr<TCDVBCATParser> m_cat;
     std::set<uint8_t> m_timeTablesTaken;
     EitCollector m_events;
     std::unique_ptr<TCEWSParser> m_ews;
@@ -130,6 +143,7 @@ private:
     std::set<uint16_t> m_tkgsPids;
     std::map<uint16_t, std::unique_ptr<TCDVBTKGSParser>> m_tkgs;
     uint16_t m_sectionPid = 0; // the PID of the section in hand
+    std::unique_ptr<AtscTables> m_atsc;
 
     // Without PIDs, the kind that sections of a shared table id went to.
     std::map<uint8_t, Kind> m_sharedKinds;

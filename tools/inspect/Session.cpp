@@ -31,6 +31,8 @@ zum_platform::BinderSettings BinderSettingsFor(const InspectSettings& settings)
     if (binder.country == ECOUNTRY_TURKEY && settings.privateDataSpecifier == 0 && settings.operatorId == 0)
         binder.privateDataSpecifier = kTkgsSpecifier;
     binder.languageCode = ZumPackCode(settings.language.c_str());
+    // The viewer reads North American text in the receiver's language.
+    binder.preferredLanguage = binder.languageCode;
     return binder;
 }
 
