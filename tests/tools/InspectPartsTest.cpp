@@ -65,7 +65,17 @@ TEST(InspectDescribers, FieldsForKnownClassesRawForTheRest)
         {zumtest::Desc(0x4A, {0, 1, 0, 2, 0, 3, 0x0D, 0x12, 0x34, 0x40}), "0x4A", "TCDescLinkage", "/linkageName",
          "event linkage"},
         {zumtest::Desc(0x7F, {0x04, 0x00, 0x12, 0x34}), "0x7F04", "TCDescT2SystemDelivery", "/t2SystemId", 0x1234},
-        {zumtest::Desc(0x7F, {0x20, 0xAA}), "0x7F20", "TCDescExtension", nullptr, "7f 02 20 aa"},
+        {zumtest::Desc(0x7F, {0x17, 0xAA}), "0x7F17", "TCDescExtension", nullptr, "7f 02 17 aa"},
+        // All ones: the centre frequency is not given.
+        {zumtest::Desc(0x5A, {0xFF, 0xFF, 0xFF, 0xFF, 0x1F, 0x92, 0x41, 0xFF, 0xFF, 0xFF, 0xFF}), "0x5A",
+         "TCDescTerrestrialDeliverySystem", "/centreFrequencyHz", nullptr},
+        // 11.765 GHz east, circular left, roll-off 0.25, DVB-S2 8PSK, 3/4: names from the byte as sent.
+        {zumtest::Desc(0x43, {0x01, 0x17, 0x65, 0x00, 0x01, 0x92, 0xCE, 0x02, 0x75, 0x00, 0x03}), "0x43",
+         "TCDescSatelliteDeliverySystem", "/polarizationName", "circular left"},
+        {zumtest::Desc(0x43, {0x01, 0x17, 0x65, 0x00, 0x01, 0x92, 0xCE, 0x02, 0x75, 0x00, 0x03}), "0x43",
+         "TCDescSatelliteDeliverySystem", "/rollOffName", "0.25"},
+        {zumtest::Desc(0x43, {0x01, 0x17, 0x65, 0x00, 0x01, 0x92, 0xCE, 0x02, 0x75, 0x00, 0x03}), "0x43",
+         "TCDescSatelliteDeliverySystem", "/modulationName", "8PSK"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.className);

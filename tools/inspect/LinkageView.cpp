@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "dvb/DescLinkage.h"
+#include "inspect/Names.h"
 #include "psi/DescCA.h"
 
 namespace zuminspect {
@@ -71,35 +72,6 @@ Json HomeTransponders(const M7HomeTPLinkageData& m7)
 }
 
 } // namespace
-
-std::string LinkageTypeName(unsigned int type)
-{
-    static const char* const kNames[] = {"reserved",
-                                         "information service",
-                                         "EPG service",
-                                         "CA replacement service",
-                                         "complete network/bouquet SI",
-                                         "service replacement service",
-                                         "data broadcast service",
-                                         "RCS map",
-                                         "mobile hand-over",
-                                         "system software update service",
-                                         "SSU BAT or NIT",
-                                         "IP/MAC notification service",
-                                         "INT BAT or NIT",
-                                         "event linkage"};
-    if (type < sizeof kNames / sizeof kNames[0])
-        return kNames[type];
-    if (type <= 0x1F)
-        return "extended event linkage";
-    if (type == 0x85)
-        return "channel number table";
-    if (type >= 0x88 && type <= 0x8A)
-        return "home transponders";
-    if (type >= 0x80 && type <= 0xFE)
-        return "user defined";
-    return "reserved";
-}
 
 Json LinkageFields(const TCDescLinkage& d, const TextDecoder&)
 {

@@ -16,9 +16,6 @@ class TCDescCA;
 
 namespace zuminspect {
 
-// "event linkage", "user defined", ... for a linkage_type.
-std::string LinkageTypeName(unsigned int type);
-
 Json LinkageFields(const TCDescLinkage& d, const TextDecoder& text);
 Json DataBroadcastFields(const TCDescDataBroadcast& d, const TextDecoder& text);
 Json DataBroadcastIdFields(const TCDescDataBroadcastId& d, const TextDecoder& text);

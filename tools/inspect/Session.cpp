@@ -85,6 +85,7 @@ Json Session::Model() const
     context.language = ZumPackCode(m_settings.language.c_str());
     context.sectionsInput = m_kind == InputKind::Sections;
     context.bytes = m_bytes;
+    context.system = SystemOf(context.country, m_settings.operatorId);
     return BuildModel(m_router, m_demux.Stats(), context);
 }
 
