@@ -28,6 +28,7 @@
 #include "operators/DescLogicalChannelV2.h"
 #include "ReadAppFields.h"
 #include "ReadOperatorFields.h"
+#include "operators/DescTKGSComponent.h"
 
 namespace fuzzfields {
 
@@ -195,6 +196,22 @@ inline void Read(TCBaseDesc* desc)
         }
     }
     ReadOperator(desc);
+    if (auto* d = dynamic_cast<TCDescTKGSMultilingualCategoryLabel*>(desc)) {
+        std::map<ELanguageCode, std::basic_string<unsigned short>> names;
+        d->GetCategoryNames(names);
+        std::basic_string<unsigned short> name;
+        for (const auto& entry : names)
+            Take(d->GetCategoryName(entry.first, name) + static_cast<unsigned int>(name.size()));
+        Take(d->CategoryId());
+    }
+    if (auto* d = dynamic_cast<TCDescTKGSExtendedService*>(desc)) {
+        std::vector<unsigned int> ids;
+        d->GetCategories(ids);
+        for (int i = -1; i <= d->NumOfCategories(); ++i)
+            Take(d->CategoryId(i));
+    }
+    if (auto* d = dynamic_cast<TCDescTKGSComponent*>(desc))
+        Take(d->Flag() + d->Found());
 }
 
 } // namespace fuzzfields

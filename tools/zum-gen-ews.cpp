@@ -7,10 +7,10 @@
 
 #include <cstdint>
 #include <cstdio>
-#include <fstream>
 #include <string>
 #include <vector>
 
+#include "SampleFile.h"
 #include "inspect/TsMux.h"
 #include "support/SectionBuilder.h"
 
@@ -199,17 +199,8 @@ Bytes Sample()
 
 int main(int argc, char** argv)
 {
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: %s OUTPUT\n", argv[0]);
-        return 2;
-    }
-    const Bytes sample = Sample();
-    std::ofstream file(argv[1], std::ios::binary);
-    file.write(reinterpret_cast<const char*>(sample.data()), static_cast<std::streamsize>(sample.size()));
-    file.close();
-    if (!file) {
-        std::perror(argv[1]);
-        return 1;
-    }
-    return 0;
+    return zumtools::WriteSample(argc, argv, [] () -> const Bytes& {
+        static const Bytes sample = Sample();
+        return sample;
+    });
 }

@@ -28,6 +28,7 @@
 #include "../operators/DescUKDTTServiceAttribute.h"
 #include "../operators/DescLogicalChannel.h"
 #include "../operators/DescLogicalChannelV2.h"
+#include "../operators/DescTKGSComponent.h"
 #include "Diagnostics.h"
 #include "PrivateTag.h"
 
@@ -257,7 +258,14 @@ TCBaseDesc* TCDescConfDVB::m_NewTricolorPrivateDesc(int tag, unsigned int pds)
     default: return t_NewDefaultPrivateDesc(tag, pds);
     }
 }
-TCBaseDesc* TCDescConfDVB::m_NewTKGSPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewTKGSPrivateDesc(int tag, unsigned int pds)
+{
+    switch (tag) {
+    case 0x92: return new TCDescTKGSMultilingualCategoryLabel(m_handle);
+    case 0x95: return new TCDescTKGSExtendedService();
+    default: return t_NewDefaultPrivateDesc(tag, pds);
+    }
+}
 TCBaseDesc* TCDescConfDVB::m_NewFSatPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
 TCBaseDesc* TCDescConfDVB::m_NewKDGPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
 TCBaseDesc* TCDescConfDVB::m_NewDishTVPrivateDesc(int tag, unsigned int pds)

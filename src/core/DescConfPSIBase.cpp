@@ -17,6 +17,7 @@
 #include "../dvb/DescPrivateDataSpecifier.h"
 #include "../dvb/DescServiceMove.h"
 #include "../isdb/DescEmergencyInformation.h"
+#include "../operators/DescTKGSComponent.h"
 #include "PrivateTag.h"
 #include "../psi/DescCA.h"
 
@@ -95,6 +96,7 @@ TCBaseDesc* TCDescConfPsiDVB::m_NewCHNPrivateDesc(int tag, unsigned int /*pds*/)
 TCBaseDesc* TCDescConfPsiDVB::m_NewTKGSPrivateDesc(int tag, unsigned int /*pds*/)
 {
     switch (tag) {
+    case 0x98: return new TCDescTKGSComponent();
     default: return nullptr;
     }
 }

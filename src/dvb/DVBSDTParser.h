@@ -116,6 +116,9 @@ public:
     TCDVBSDTInstance* DVBSDTFirstInstance() const;
     int NumOfDVBSDTInstance() const { return static_cast<int>(m_instances.size()); }
     TCDVBSDTInstance* DVBSDTInstanceOfIndex(unsigned int index) const;
+    // The key of the section parsed last; 0xFFFF before any.
+    unsigned short LastTransportStreamId() const { return m_lastTransportStreamId; }
+    unsigned short LastOriginalNetworkId() const { return m_lastOriginalNetworkId; }
 
 protected:
     bool t_Parse(const unsigned char* body, int length) override;

@@ -59,6 +59,12 @@ ByteWriter& ByteWriter::Begin16(int bits, unsigned highBits)
     return U16(0);
 }
 
+ByteWriter& ByteWriter::Begin24(int bits, unsigned highBits)
+{
+    m_open.push_back({m_data.size(), 3, bits, highBits});
+    return U24(0);
+}
+
 ByteWriter& ByteWriter::End()
 {
     if (m_open.empty())
@@ -72,8 +78,8 @@ ByteWriter& ByteWriter::End()
         m_data[open.at] = static_cast<uint8_t>(length);
     } else {
         const unsigned value = (open.high & ~((1u << open.bits) - 1)) | static_cast<unsigned>(length);
-        m_data[open.at] = static_cast<uint8_t>(value >> 8);
-        m_data[open.at + 1] = static_cast<uint8_t>(value);
+        for (int i = 0; i < open.width; ++i)
+            m_data[open.at + static_cast<size_t>(i)] = static_cast<uint8_t>(value >> (8 * (open.width - 1 - i)));
     }
     return *this;
 }

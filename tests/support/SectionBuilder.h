@@ -30,6 +30,8 @@ public:
     // bits are `highBits` (e.g. 0xF000 with 12 bits for reserved '1111').
     ByteWriter& Begin8();
     ByteWriter& Begin16(int bits = 12, unsigned highBits = 0xF000);
+    // A 24-bit field, e.g. reserved '1111' and a 20-bit length.
+    ByteWriter& Begin24(int bits = 20, unsigned highBits = 0xF00000);
     ByteWriter& End();
 
     // A descriptor: tag, length, body.

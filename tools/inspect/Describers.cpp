@@ -51,10 +51,12 @@
 #include "inspect/EwsView.h"
 #include "av/DescAC4.h"
 #include "av/DescAPD.h"
+#include "inspect/TkgsView.h"
 #include "isdb/DescEmergencyInformation.h"
 #include "operators/DescLogicalChannel.h"
 #include "inspect/LinkageView.h"
 #include "operators/DescLogicalChannelV2.h"
+#include "operators/DescTKGSComponent.h"
 #include "psi/DescCA.h"
 
 #include "inspect/Names.h"
@@ -557,6 +559,9 @@ DescriberTable MakeTable()
     Register<TCDescApplicationSignalling>(t, DescribeApplicationSignalling);
     Register<TCDescAC4>(t, DescribeAC4);
     Register<TCDescAPD>(t, DescribeAPD);
+    Register<TCDescTKGSComponent>(t, DescribeTkgsComponent);
+    Register<TCDescTKGSExtendedService>(t, DescribeTkgsExtendedService);
+    Register<TCDescTKGSMultilingualCategoryLabel>(t, DescribeTkgsCategoryLabel);
     Register<TCDescLinkage>(t, LinkageFields);
     Register<TCDescDataBroadcast>(t, DataBroadcastFields);
     Register<TCDescDataBroadcastId>(t, DataBroadcastIdFields);

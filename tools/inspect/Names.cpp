@@ -618,6 +618,9 @@ std::string TableIdName(unsigned int tableId, BroadcastSystem system, unsigned i
         // The selection information of recorded streams.
         if (tableId == 0xD5)
             return "SIT";
+        // A Turkish operator's channel system.
+        if (system == BroadcastSystem::Dvb && tableId == 0xA7)
+            return "TKGS";
     }
     if (tableId >= 0x08 && tableId <= 0x3F)
         return "reserved";

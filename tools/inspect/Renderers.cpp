@@ -11,6 +11,7 @@
 #include "inspect/Format.h"
 #include "inspect/OperatorsView.h"
 #include "inspect/Text.h"
+#include "inspect/TkgsView.h"
 
 namespace zuminspect {
 
@@ -315,6 +316,7 @@ void RenderTree(const Json& model, std::ostream& out)
     tree.Sit(part("sit"));
     RenderAitTree(part("ait"), out);
     RenderSgtTree(part("sgt"), out);
+    RenderTkgsTree(part("tkgs"), out);
     RenderAtscTree(part("atsc"), out);
     tree.Summary(part("summary"));
 }

@@ -41,6 +41,7 @@
 //   "ews":     null | the emergency warning table, schema in inspect/EwsView.h,
 //   "sit":     see SitView.h,
 //   "ait":     the AITs by PID, schema in inspect/AitView.h,
+//   "tkgs":    the TKGS channel systems, schema in inspect/TkgsView.h,
 //   "atsc":    null | the PSIP tables, see AtscView.h,
 //   "summary": {"demux": {"packetSize", "packets", "syncLosses", "skippedBytes", "truncatedPackets",
 //                         "continuityErrors", "transportErrors", "duplicates", "sections", "crcErrors",

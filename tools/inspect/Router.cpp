@@ -13,10 +13,12 @@
 #include "dvb/DVBSGTParser.h"
 #include "dvb/DVBTDTParser.h"
 #include "dvb/DVBTOTParser.h"
+#include "dvb/DVBTKGSParser.h"
 #include "inspect/TableIds.h"
 #include "inspect/AtscView.h"
 #include "inspect/TsDemux.h"
 #include "isdb/EWSParser.h"
+#include "operators/DescTKGSComponent.h"
 #include "program/SITParser.h"
 #include "psi/DVBCATParser.h"
 #include "psi/PATParser.h"
@@ -35,6 +37,8 @@ constexpr uint8_t kTidSit = 0xD5;
 constexpr uint8_t kTidAit = 0x74;
 constexpr int kTagApplicationSignalling = 0x6F;
 constexpr uint8_t kTidSgt = 0x91;
+constexpr uint8_t kTidTkgs = 0xA7;
+constexpr int kTagTkgsComponent = 0x98;
 
 bool IsEit(uint8_t tableId)
 {
@@ -77,7 +81,8 @@ bool Router::Wants(uint16_t pid) const
 {
     return m_allPids || pid == kPidPat || pid == kPidCat || pid == kPidNit || pid == kPidSdt || pid == kPidEit ||
            pid == kPidTime || pid == kPidSit || pid == kNoPid || m_pmtPids.count(pid) > 0 || pid == m_networkPid ||
-           m_privateSectionPids.count(pid) > 0 || m_atsc->Wants(pid) || m_isdb->Wants(pid);
+           m_privateSectionPids.count(pid) > 0 || m_atsc->Wants(pid) || m_isdb->Wants(pid) ||
+           m_tkgsPids.count(pid) > 0;
 }
 
 Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
@@ -119,6 +124,9 @@ Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
         return Kind::Sit;
     if (tableId == kTidAit && (any || m_aitPids.count(pid) > 0))
         return Kind::Ait;
+    // TKGS comes on the stream whose PMT entry carries the TKGS component.
+    if (tableId == kTidTkgs && (any || m_allPids || m_tkgsPids.count(pid) > 0))
+        return Kind::Tkgs;
     return Kind::None;
 }
 
@@ -163,6 +171,7 @@ TCSectionParser* Router::m_Parser(Kind kind, uint8_t tableId)
     case Kind::Ews: return Lazy(m_ews);
     case Kind::Sit: return Lazy(m_sit, static_cast<int>(tableId), m_handle);
     case Kind::Ait: break; // by PID, see OnSection
+    case Kind::Tkgs: return Lazy(m_tkgs[m_sectionPid], m_handle);
     case Kind::Bat: return Lazy(m_bat, m_handle);
     case Kind::Cat: return Lazy(m_cat, m_handle);
     case Kind::Sgt: return Lazy(m_sgt, m_handle);
@@ -182,6 +191,7 @@ void Router::OnSection(uint16_t pid, const uint8_t* section, size_t size)
 
     m_isdb->Learn(pid, section, size);
     const Kind kind = m_KindOfSection(pid, section, size);
+    m_sectionPid = pid;
     // Each AIT PID carries the table of its own service: one parser per PID.
     TCSectionParser* parser =
         kind == Kind::Ait ? Lazy(m_aits[pid], static_cast<int>(tableId), m_handle) : m_Parser(kind, tableId);
@@ -207,8 +217,10 @@ void Router::OnSection(uint16_t pid, const uint8_t* section, size_t size)
         m_timeTablesTaken.insert(tableId);
     else if (kind == Kind::Lcn)
         m_lcnPids.insert(pid);
-    else if (kind == Kind::Pmt)
+    else if (kind == Kind::Pmt) {
         m_LearnPrivateSectionPids();
+        m_LearnTkgsPids();
+    }
     else if (kind == Kind::Ews)
         m_ewsPids.insert(pid);
     else if (kind == Kind::None)
@@ -226,6 +238,22 @@ void Router::m_LearnPrivateSectionPids()
             if (stream->StreamType() == kStreamTypePrivateSections &&
                 stream->NumOfDescriptors(kTagApplicationSignalling) > 0)
                 m_aitPids.insert(static_cast<uint16_t>(stream->ElementaryPID() & 0x1FFF));
+        }
+    }
+}
+
+void Router::m_LearnTkgsPids()
+{
+    for (int i = 0; i < m_pmt->NumOfPMTInstance(); ++i) {
+        const TCPMTInstance* program = m_pmt->PMTInstanceOfIndex(static_cast<unsigned>(i));
+        for (int k = 0; k < program->NumOfElementary(); ++k) {
+            const TCPMTElementary* stream = program->PMTElementary(static_cast<unsigned>(k));
+            for (int d = 0; d < stream->NumOfDescriptors(kTagTkgsComponent); ++d) {
+                const auto* component = dynamic_cast<const TCDescTKGSComponent*>(
+                    stream->Descriptor(kTagTkgsComponent, static_cast<unsigned>(d)));
+                if (component && component->Found())
+                    m_tkgsPids.insert(static_cast<uint16_t>(stream->ElementaryPID() & 0x1FFF));
+            }
         }
     }
 }
@@ -255,6 +283,7 @@ std::string Router::ParserName(uint16_t pid, uint8_t tableId) const
     case Kind::Ews: return "TCEWSParser";
     case Kind::Sit: return "TCSITParser";
     case Kind::Ait: return "TCAITParser";
+    case Kind::Tkgs: return "TCDVBTKGSParser";
     case Kind::Bat: return "TCDVBBATParser";
     case Kind::Cat: return "TCDVBCATParser";
     case Kind::Sgt: return "TCDVBSGTParser";
@@ -311,6 +340,10 @@ std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
         for (int i = 0; i < it->second->NumOfAITInstance(); ++i)
             instances.push_back(it->second->AITInstanceOfIndex(static_cast<unsigned>(i)));
         return AllValid(instances, [](const TCAitInstance* p) { return p->IsValid(); });
+    }
+    case Kind::Tkgs: {
+        const auto it = m_tkgs.find(pid);
+        return it != m_tkgs.end() && it->second->IsComplete();
     }
     case Kind::Bat: {
         std::list<unsigned short> ids;

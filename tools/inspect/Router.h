@@ -38,6 +38,7 @@ class TCEWSParser;
 class TCSITParser;
 class TCAITParser;
 class TCDVBSGTParser;
+class TCDVBTKGSParser;
 class TCDVBBATParser;
 class TCDVBCATParser;
 
@@ -106,13 +107,15 @@ public:
     const std::map<uint16_t, std::unique_ptr<TCAITParser>>& Aits() const { return m_aits; }
 
     const TCDVBSGTParser* Sgt() const { return m_sgt.get(); }
+    // One TKGS table per PID that a PMT announces with a TKGS component.
+    const std::map<uint16_t, std::unique_ptr<TCDVBTKGSParser>>& Tkgs() const { return m_tkgs; }
     // The PSIP tables on the base PID, with an ATSC country.
     const AtscTables& Atsc() const { return *m_atsc; }
     // The ISDB tables of an ISDB receiver (BIT, NBIT, LDT, PCAT, SDTT, CDT, ECM, EMM).
     const IsdbTables& Isdb() const { return *m_isdb; }
 
 private:
-    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit, Bat, Cat, Ait, Sgt };
+    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit, Bat, Cat, Ait, Sgt, Tkgs };
 
     Kind m_KindOf(uint16_t pid, uint8_t tableId) const;
     // As above, deciding a shared table id of a file of sections by country and section shape.
@@ -122,6 +125,7 @@ private:
     TCSectionParser* m_Parser(Kind kind, uint8_t tableId);
     void m_LearnPids();
     void m_LearnPrivateSectionPids();
+    void m_LearnTkgsPids();
 
     ZUMHandle m_handle;
     bool m_allPids;
@@ -149,6 +153,9 @@ private:
     std::set<uint16_t> m_aitPids;
     std::map<uint16_t, std::unique_ptr<TCAITParser>> m_aits;
     std::unique_ptr<TCDVBSGTParser> m_sgt;
+    std::set<uint16_t> m_tkgsPids;
+    std::map<uint16_t, std::unique_ptr<TCDVBTKGSParser>> m_tkgs;
+    uint16_t m_sectionPid = 0; // the PID of the section in hand
     std::unique_ptr<AtscTables> m_atsc;
     std::unique_ptr<IsdbTables> m_isdb;
 

@@ -6,6 +6,8 @@ namespace zuminspect {
 
 namespace {
 
+constexpr unsigned int kTkgsSpecifier = 0x011FFFFF;
+
 // The two countries whose enumeration value the library acts on.
 ECountry CountryEnum(ECountryCode code)
 {
@@ -25,6 +27,9 @@ zum_platform::BinderSettings BinderSettingsFor(const InspectSettings& settings)
     binder.country = CountryEnum(binder.countryCode);
     binder.operatorId = settings.operatorId;
     binder.privateDataSpecifier = settings.privateDataSpecifier;
+    // A Turkish receiver of no named operator reads the TKGS channel system.
+    if (binder.country == ECOUNTRY_TURKEY && settings.privateDataSpecifier == 0 && settings.operatorId == 0)
+        binder.privateDataSpecifier = kTkgsSpecifier;
     binder.languageCode = ZumPackCode(settings.language.c_str());
     // The viewer reads North American text in the receiver's language.
     binder.preferredLanguage = binder.languageCode;

@@ -24,6 +24,13 @@ enum ELanguage : int {
     ELANGUAGE_OTHERS = 107,
 };
 
+// How the receiver's tuner is fed: terrestrial aerial, cable or satellite dish.
+enum EAntennaMode : int {
+    EANTENNA_MODE_AIR = 0,
+    EANTENNA_MODE_CABLE = 1,
+    EANTENNA_MODE_SATELLITE = 2,
+};
+
 // Japanese broadcast areas of ARIB emergency signalling: a wide area of
 // several prefectures (1 to 4), or one prefecture (17 to 64).
 enum EJapanWideArea : int {
