@@ -14,6 +14,10 @@
 #include "../dvb/DescLocalTimeOffset.h"
 #include "../dvb/DescSatelliteDeliverySystem.h"
 #include "../operators/DescDishTVGenre.h"
+#include "../operators/DescFSatGuidance.h"
+#include "../operators/DescFSatLinkage.h"
+#include "../operators/DescFSatLogicalChannel.h"
+#include "../operators/DescFSatRegionName.h"
 #include "../operators/DescLogicalChannel.h"
 #include "../operators/DescLogicalChannelV2.h"
 #include "Diagnostics.h"
@@ -43,6 +47,7 @@ TCBaseDesc* TCDescConfDVB::NewDescriptor(int tag, const unsigned char* data, uns
     case 0x5D: return new TCDescMultilingualServiceName();
     case 0x5F: return new TCDescPrivateDataSpecifier();
     case 0x62: return new TCDescFrequencyList();
+    case 0x7E: return new TCDescFTAContentManagement();
     case 0x7F: return TCDescExtension::ProcessExtensionDescriptor(data, pds);
     default: return t_ProcessPrivateDesc(tag, pds);
     }
@@ -170,6 +175,7 @@ TCBaseDesc* TCDescConfDVB::m_NewDbookPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {
     case 0x88: return new TCDescLogicalChannel(0x88, pds);
+    case 0x89: return new TCDescGuidance();
     default: return t_NewDefaultPrivateDesc(tag, pds);
     }
 }
@@ -220,7 +226,25 @@ TCBaseDesc* TCDescConfDVB::m_NewTricolorPrivateDesc(int tag, unsigned int pds)
     }
 }
 TCBaseDesc* TCDescConfDVB::m_NewTKGSPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
-TCBaseDesc* TCDescConfDVB::m_NewFSatPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewFSatPrivateDesc(int tag, unsigned int pds)
+{
+    switch (tag) {
+    case 0xD0: return new TCDescFSatTunnelledData();
+    case 0xD1: return new TCDescFSatAltTunnelledData();
+    case 0xD2: return new TCDescFSatLinkage();
+    case 0xD3: return new TCDescFSatLogicalChannel();
+    case 0xD4: return new TCDescFSatRegionName();
+    case 0xD5: return new TCDescFSatServiceGroup();
+    case 0xD6: return new TCDescFSatInteractiveStorage();
+    case 0xD7: return new TCDescFSatInfoLocation();
+    case 0xD8: return new TCDescFSatServiceGroupName();
+    case 0xD9: return new TCDescFSatShortServiceName();
+    case 0xDA: return new TCDescFSatGuidance();
+    case 0xDB: return new TCDescFSatInteractiveRestriction();
+    case 0xDC: return new TCDescFSatContentManagement();
+    default: return t_NewDefaultPrivateDesc(tag, pds);
+    }
+}
 TCBaseDesc* TCDescConfDVB::m_NewKDGPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
 TCBaseDesc* TCDescConfDVB::m_NewDishTVPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
 

@@ -9,6 +9,7 @@
 #include "../dvb/DescPrivateDataSpecifier.h"
 #include "../dvb/DescServiceMove.h"
 #include "../isdb/DescEmergencyInformation.h"
+#include "../operators/DescFSatLinkage.h"
 #include "PrivateTag.h"
 
 TCBaseDesc* TCDescConfPSIBase::NewDescriptor(int tag, const unsigned char* /*data*/, unsigned int /*pds*/)
@@ -59,6 +60,8 @@ TCBaseDesc* TCDescConfPsiDVB::t_ProcessPrivateDesc(int tag, unsigned int pds)
 TCBaseDesc* TCDescConfPsiDVB::m_NewFSatPrivateDesc(int tag, unsigned int /*pds*/)
 {
     switch (tag) {
+    case 0xD0: return new TCDescFSatTunnelledData();
+    case 0xD1: return new TCDescFSatAltTunnelledData();
     default: return nullptr;
     }
 }
