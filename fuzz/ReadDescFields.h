@@ -21,6 +21,7 @@
 #include "dvb/DescService.h"
 #include "dvb/DescShortEvent.h"
 #include "operators/DescLogicalChannelV2.h"
+#include "ReadFSatFields.h"
 
 namespace fuzzfields {
 
@@ -141,6 +142,7 @@ inline void Read(TCBaseDesc* desc)
             ReadLcn(*d);
         }
     }
+    fsatfields::Read(desc);
 }
 
 } // namespace fuzzfields

@@ -30,6 +30,7 @@
 #include "dvb/DescShortEvent.h"
 #include "dvb/DescT2SystemDelivery.h"
 #include "inspect/EwsView.h"
+#include "inspect/FreesatView.h"
 #include "isdb/DescEmergencyInformation.h"
 #include "operators/DescLogicalChannel.h"
 #include "operators/DescLogicalChannelV2.h"
@@ -493,8 +494,11 @@ Json DescribeDescriptor(const TCBaseDesc& desc, const TextDecoder& text)
     const int tag = desc.Tag() >= 0 ? desc.Tag() : 0x7F;
     Json out = {{"tag", Hex(static_cast<unsigned>(tag), tag > 0xFF ? 4 : 2)}, {"class", ClassName(desc)}};
     const auto describer = Describers().find(std::type_index(typeid(desc)));
+    Json freesat;
     if (describer != Describers().end())
         out["fields"] = describer->second(desc, text);
+    else if (!(freesat = DescribeFreesat(desc, text)).is_null())
+        out["fields"] = freesat;
     else
         out["raw"] = RawHex(desc);
     return out;

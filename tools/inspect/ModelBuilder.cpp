@@ -14,6 +14,7 @@
 #include "inspect/EwsView.h"
 #include "inspect/Router.h"
 #include "inspect/SitView.h"
+#include "inspect/FreesatView.h"
 #include "inspect/TableIds.h"
 #include "inspect/TsDemux.h"
 #include "operators/DescLogicalChannel.h"
@@ -143,6 +144,9 @@ Json Builder::TransportStream(const TCDVBItemMux& mux) const
                                 {"serviceType", list->ServiceType(s)},
                                 {"channelNumber", number != kNoChannelNumber ? Json(number) : Json(nullptr)},
                                 {"channelNumberTag", from ? HexId(from->Tag()) : Json(nullptr)}});
+            const Json byRegion = FreesatNumbersByRegion(lcn, serviceId);
+            if (!byRegion.is_null())
+                services.back()["channelNumbersByRegion"] = byRegion;
         }
     }
     return {{"transportStreamId", mux.TransportStreamId()},
@@ -354,6 +358,7 @@ Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContex
             {"lcn", b.Lcn()},
             {"ews", EwsModel(router, b.text)},
             {"sit", DescribeSit(router.Sit(), b.text)},
+            {"freesatPostCodes", FreesatPostCodes(router.FSatPostCodes())},
             {"summary", b.Summary()}};
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "inspect/EwsView.h"
+#include "inspect/FreesatView.h"
 #include "inspect/Text.h"
 
 namespace zuminspect {
@@ -263,6 +264,7 @@ void RenderTree(const Json& model, std::ostream& out)
     tree.Times(model["tdt"], model["tot"]);
     tree.Lcn(model["lcn"]);
     RenderEwsTree(model["ews"], out);
+    RenderFreesatPostCodesTree(model["freesatPostCodes"], out);
     tree.Sit(model["sit"]);
     tree.Summary(model["summary"]);
 }

@@ -29,6 +29,7 @@
 //                      "records": [{"key": [3 numbers], "channelNumber", "visible", "extra"}]},
 //   "ews":     null | the emergency warning table, schema in inspect/EwsView.h,
 //   "sit":     see SitView.h,
+//   "freesatPostCodes": see FreesatView.h,
 //   "summary": {"demux": {"packetSize", "packets", "syncLosses", "skippedBytes", "truncatedPackets",
 //                         "continuityErrors", "transportErrors", "duplicates", "sections", "crcErrors",
 //                         "droppedSections", "unfinishedSections"},

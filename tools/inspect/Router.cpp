@@ -14,6 +14,7 @@
 #include "inspect/TsDemux.h"
 #include "isdb/EWSParser.h"
 #include "program/SITParser.h"
+#include "dvb/DVBFSatPostCodeParser.h"
 #include "psi/PATParser.h"
 #include "psi/PMTParser.h"
 
@@ -27,6 +28,8 @@ constexpr uint8_t kTidLcn = 0x85;
 constexpr uint8_t kTidEws = 0x80;
 constexpr int kStreamTypePrivateSections = 0x05;
 constexpr uint8_t kTidSit = 0xD5;
+constexpr uint8_t kTidFSatPostCode = 0xD2;
+constexpr unsigned int kPdsFreesat = 0x46534154;
 
 bool IsEit(uint8_t tableId)
 {
@@ -98,6 +101,10 @@ Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
         return Kind::Lcn;
     if (tableId == kTidSit && (any || pid == kPidSit))
         return Kind::Sit;
+    // Only a Freesat receiver filters its postcode tables.
+    IBinder* binder = IBinder::Instance();
+    if (tableId == kTidFSatPostCode && binder && binder->GetPrivateDataSpecification(m_handle) == kPdsFreesat)
+        return Kind::FSatPostCode;
     return Kind::None;
 }
 
@@ -139,6 +146,7 @@ TCSectionParser* Router::m_Parser(Kind kind, uint8_t tableId)
     case Kind::Lcn: return Lazy(m_lcn, m_handle);
     case Kind::Ews: return Lazy(m_ews);
     case Kind::Sit: return Lazy(m_sit, static_cast<int>(tableId), m_handle);
+    case Kind::FSatPostCode: return Lazy(m_fsatPostCodes, m_handle);
     case Kind::None: break;
     }
     return nullptr;
@@ -215,6 +223,7 @@ std::string Router::ParserName(uint16_t pid, uint8_t tableId) const
     case Kind::Lcn: return "TCDVBLCNParser";
     case Kind::Ews: return "TCEWSParser";
     case Kind::Sit: return "TCSITParser";
+    case Kind::FSatPostCode: return "TCDVBFSatPostCodeParser";
     case Kind::None: break;
     }
     return std::string();
@@ -259,6 +268,7 @@ std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
     case Kind::Lcn: return m_lcn && m_lcn->IsRecv();
     case Kind::Ews: return m_ews && m_ews->IsValidTRDW() && m_ews->IsValidTCDW() && m_ews->IsValidTMDW();
     case Kind::Sit: return m_sit && m_sit->IsRecv();
+    case Kind::FSatPostCode: return m_fsatPostCodes && m_fsatPostCodes->IsValid();
     case Kind::None: break;
     }
     return std::nullopt;

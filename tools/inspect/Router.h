@@ -35,6 +35,7 @@ class TCDVBTOTParser;
 class TCDVBLCNParser;
 class TCEWSParser;
 class TCSITParser;
+class TCDVBFSatPostCodeParser;
 
 namespace zuminspect {
 
@@ -90,9 +91,10 @@ public:
     const std::set<uint16_t>& EwsPids() const { return m_ewsPids; }
 
     const TCSITParser* Sit() const { return m_sit.get(); }
+    const TCDVBFSatPostCodeParser* FSatPostCodes() const { return m_fsatPostCodes.get(); }
 
 private:
-    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit };
+    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit, FSatPostCode };
 
     Kind m_KindOf(uint16_t pid, uint8_t tableId) const;
     // As above, deciding a shared table id of a file of sections by country and section shape.
@@ -123,6 +125,7 @@ private:
     std::set<uint16_t> m_privateSectionPids; // streams of type 0x05 in a PMT
     std::set<uint16_t> m_ewsPids;
     std::unique_ptr<TCSITParser> m_sit;
+    std::unique_ptr<TCDVBFSatPostCodeParser> m_fsatPostCodes;
 
     // Without PIDs, the kind that sections of a shared table id went to.
     std::map<uint8_t, Kind> m_sharedKinds;
