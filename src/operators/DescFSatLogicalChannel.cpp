@@ -39,6 +39,7 @@ TCBaseDesc* TCDescFSatLogicalChannel::Fork() const
 
 int TCDescFSatLogicalChannel::t_Parse(const unsigned char* payload, unsigned char length)
 {
+    DeleteAll();
     return m_Decode(payload, length);
 }
 
