@@ -2,7 +2,7 @@
 // sections are packed into TS packets beforehand (TsMux, continuity counters
 // running on), and each pass pushes the packets of one table version through
 // dvbpsi_packet_push with the table decoder attached (the subtable demux for
-// NIT, SDT and EIT). The decoder reassembles and checks the sections and calls
+// NIT, BAT, SDT and EIT). The decoder reassembles and checks the sections and calls
 // back with the whole table; the callback decodes the descriptors that the
 // library decodes into objects with the matching dvbpsi_Decode*Dr call, and
 // deletes the table.
@@ -22,12 +22,15 @@
 #include <dvbpsi/pat.h>
 #include <dvbpsi/pmt.h>
 #include <dvbpsi/nit.h>
+#include <dvbpsi/bat.h>
 #include <dvbpsi/sdt.h>
 #include <dvbpsi/eit.h>
 #include <dvbpsi/dr_0a.h>
 #include <dvbpsi/dr_40.h>
 #include <dvbpsi/dr_41.h>
+#include <dvbpsi/dr_47.h>
 #include <dvbpsi/dr_48.h>
+#include <dvbpsi/dr_4a.h>
 #include <dvbpsi/dr_4d.h>
 #include <dvbpsi/dr_4e.h>
 #include <dvbpsi/dr_50.h>
@@ -38,6 +41,10 @@
 #include <dvbpsi/dr_59.h>
 #include <dvbpsi/dr_5a.h>
 #include <dvbpsi/dr_83.h>
+#include <dvbpsi/dr_a0.h>
+#include <dvbpsi/dr_a1.h>
+#include <dvbpsi/atsc_mgt.h>
+#include <dvbpsi/atsc_vct.h>
 // clang-format on
 
 #include "inspect/TsMux.h"
@@ -64,7 +71,9 @@ bool DecodeDescriptor(dvbpsi_descriptor_t* d)
     case 0x59: return dvbpsi_DecodeSubtitlingDr(d) != nullptr;
     case 0x40: return dvbpsi_DecodeNetworkNameDr(d) != nullptr;
     case 0x41: return dvbpsi_DecodeServiceListDr(d) != nullptr;
+    case 0x47: return dvbpsi_DecodeBouquetNameDr(d) != nullptr;
     case 0x48: return dvbpsi_DecodeServiceDr(d) != nullptr;
+    case 0x4A: return dvbpsi_DecodeLinkageDr(d) != nullptr;
     case 0x4D: return dvbpsi_DecodeShortEventDr(d) != nullptr;
     case 0x4E: return dvbpsi_DecodeExtendedEventDr(d) != nullptr;
     case 0x50: {
@@ -81,6 +90,8 @@ bool DecodeDescriptor(dvbpsi_descriptor_t* d)
     case 0x55: return dvbpsi_DecodeParentalRatingDr(d) != nullptr;
     case 0x5A: return dvbpsi_DecodeTerrDelivSysDr(d) != nullptr;
     case 0x83: return dvbpsi_DecodeLCNDr(d) != nullptr;
+    case 0xA0: return dvbpsi_ExtendedChannelNameDr(d) != nullptr;
+    case 0xA1: return dvbpsi_DecodeServiceLocationDr(d) != nullptr;
     // No decoder of its own: the specifier is read in place, as a loop walk does.
     case 0x5F: return d->i_length >= 4 && d->p_data[0] == 0x00;
     default: return false;
@@ -130,6 +141,16 @@ void OnNit(void* data, dvbpsi_nit_t* nit)
     dvbpsi_nit_delete(nit);
 }
 
+void OnBat(void* data, dvbpsi_bat_t* bat)
+{
+    auto* seen = static_cast<Seen*>(data);
+    ++seen->tables;
+    seen->count += DecodeDescriptors(bat->p_first_descriptor);
+    for (dvbpsi_bat_ts_t* ts = bat->p_first_ts; ts; ts = ts->p_next)
+        seen->count += DecodeDescriptors(ts->p_first_descriptor);
+    dvbpsi_bat_delete(bat);
+}
+
 void OnSdt(void* data, dvbpsi_sdt_t* sdt)
 {
     auto* seen = static_cast<Seen*>(data);
@@ -148,14 +169,44 @@ void OnEit(void* data, dvbpsi_eit_t* eit)
     dvbpsi_eit_delete(eit);
 }
 
+// The PSIP tables count their entries and channels, as GStreamer's do; the
+// channel descriptors are decoded all the same.
+void OnMgt(void* data, dvbpsi_atsc_mgt_t* mgt)
+{
+    auto* seen = static_cast<Seen*>(data);
+    ++seen->tables;
+    for (dvbpsi_atsc_mgt_table_t* t = mgt->p_first_table; t; t = t->p_next) {
+        DecodeDescriptors(t->p_first_descriptor);
+        ++seen->count;
+    }
+    dvbpsi_atsc_DeleteMGT(mgt);
+}
+
+void OnVct(void* data, dvbpsi_atsc_vct_t* vct)
+{
+    auto* seen = static_cast<Seen*>(data);
+    ++seen->tables;
+    for (dvbpsi_atsc_vct_channel_t* c = vct->p_first_channel; c; c = c->p_next) {
+        DecodeDescriptors(c->p_first_descriptor);
+        ++seen->count;
+    }
+    dvbpsi_atsc_DeleteVCT(vct);
+}
+
 void OnNewSubtable(dvbpsi_t* handle, uint8_t tableId, uint16_t extension, void* data)
 {
     if (tableId == 0x40 || tableId == 0x41)
         dvbpsi_nit_attach(handle, tableId, extension, OnNit, data);
+    else if (tableId == 0x4A)
+        dvbpsi_bat_attach(handle, tableId, extension, OnBat, data);
     else if (tableId == 0x42 || tableId == 0x46)
         dvbpsi_sdt_attach(handle, tableId, extension, OnSdt, data);
     else if (tableId >= 0x4E && tableId <= 0x6F)
         dvbpsi_eit_attach(handle, tableId, extension, OnEit, data);
+    else if (tableId == 0xC7)
+        dvbpsi_atsc_AttachMGT(handle, tableId, extension, OnMgt, data);
+    else if (tableId == 0xC8 || tableId == 0xC9)
+        dvbpsi_atsc_AttachVCT(handle, tableId, extension, OnVct, data);
 }
 
 void Quiet(dvbpsi_t*, const dvbpsi_msg_level_t, const char*) {}

@@ -66,6 +66,20 @@ bool ParseDescriptor(const GstMpegtsDescriptor* d)
         g_free(name);
         return true;
     }
+    case 0x47: {
+        gchar* name = nullptr;
+        if (!gst_mpegts_descriptor_parse_dvb_bouquet_name(d, &name))
+            return false;
+        g_free(name);
+        return true;
+    }
+    case 0x4A: {
+        GstMpegtsDVBLinkageDescriptor* res = nullptr;
+        if (!gst_mpegts_descriptor_parse_dvb_linkage(d, &res))
+            return false;
+        gst_mpegts_dvb_linkage_descriptor_free(res);
+        return true;
+    }
     case 0x41: {
         GPtrArray* list = nullptr;
         if (!gst_mpegts_descriptor_parse_dvb_service_list(d, &list))
@@ -184,6 +198,14 @@ int Pass(Family family, const Table& table, uint64_t n)
                         static_cast<const GstMpegtsNITStream*>(g_ptr_array_index(nit->streams, i))->descriptors);
             }
             break;
+        case Family::Bat:
+            if (const GstMpegtsBAT* bat = gst_mpegts_section_get_bat(section)) {
+                count += ParseDescriptors(bat->descriptors);
+                for (guint i = 0; i < bat->streams->len; ++i)
+                    count += ParseDescriptors(
+                        static_cast<const GstMpegtsBATStream*>(g_ptr_array_index(bat->streams, i))->descriptors);
+            }
+            break;
         case Family::Sdt:
             if (const GstMpegtsSDT* sdt = gst_mpegts_section_get_sdt(section)) {
                 for (guint i = 0; i < sdt->services->len; ++i)
@@ -198,6 +220,14 @@ int Pass(Family family, const Table& table, uint64_t n)
                     count += ParseDescriptors(
                         static_cast<const GstMpegtsEITEvent*>(g_ptr_array_index(eit->events, i))->descriptors);
             }
+            break;
+        case Family::Mgt:
+            if (const GstMpegtsAtscMGT* mgt = gst_mpegts_section_get_atsc_mgt(section))
+                count += static_cast<int>(mgt->tables->len);
+            break;
+        case Family::Tvct:
+            if (const GstMpegtsAtscVCT* vct = gst_mpegts_section_get_atsc_tvct(section))
+                count += static_cast<int>(vct->sources->len);
             break;
         default: break;
         }

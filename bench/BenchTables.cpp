@@ -18,6 +18,7 @@ constexpr uint16_t kPidPmt = 0x0100;
 constexpr uint16_t kPidNit = 0x0010;
 constexpr uint16_t kPidSdt = 0x0011;
 constexpr uint16_t kPidEit = 0x0012;
+constexpr uint16_t kPidPsip = 0x1FFB;
 
 Bytes Text(const std::string& text)
 {
@@ -124,14 +125,16 @@ Bytes TransportStream(unsigned index)
     return w.Data();
 }
 
-std::vector<Bytes> Nit(unsigned version)
+// A NIT or BAT: its own loop `head` in each of two sections, then half of the
+// 20 transport streams in each.
+std::vector<Bytes> MuxLoopTable(unsigned tableId, unsigned extension, unsigned version, const Bytes& head)
 {
     constexpr unsigned kSections = 2;
     constexpr unsigned kPerSection = kNitTransportStreams / kSections;
     std::vector<Bytes> sections;
     for (unsigned section = 0; section < kSections; ++section) {
-        SectionBuilder s(zumtest::LongHeader(0x40, kNetworkId, version, section, kSections - 1, true));
-        s.Begin16().Descriptor(0x40, Text("ZUM Benchmark Network")).End();
+        SectionBuilder s(zumtest::LongHeader(tableId, extension, version, section, kSections - 1, true));
+        s.Begin16().Raw(head).End();
         s.Begin16();
         for (unsigned i = 0; i < kPerSection; ++i)
             s.Raw(TransportStream(section * kPerSection + i));
@@ -139,6 +142,21 @@ std::vector<Bytes> Nit(unsigned version)
         sections.push_back(s.Build());
     }
     return sections;
+}
+
+std::vector<Bytes> Nit(unsigned version)
+{
+    return MuxLoopTable(0x40, kNetworkId, version, zumtest::Desc(0x40, Text("ZUM Benchmark Network")));
+}
+
+// ---- BAT: the same 20 transport streams in one bouquet ------------------------
+
+std::vector<Bytes> Bat(unsigned version)
+{
+    // Bouquet name, and a linkage to the transport stream with the bouquet's complete SI.
+    const Bytes linkage = Concat({U16(kTransportStreamId), U16(kOriginalNetworkId), U16(0x0000), {0x04}});
+    return MuxLoopTable(0x4A, kBouquetId, version,
+                        Concat({zumtest::Desc(0x47, Text("ZUM Benchmark Bouquet")), zumtest::Desc(0x4A, linkage)}));
 }
 
 // ---- SDT: 40 services over two sections ---------------------------------------
@@ -268,6 +286,59 @@ std::vector<Bytes> EitSchedule(unsigned version, bool compressed)
     return sections;
 }
 
+// ---- PSIP: the MGT of a terrestrial station and its TVCT -----------------------
+
+zumtest::SectionHeader PsipHeader(unsigned tableId, unsigned extension, unsigned version)
+{
+    zumtest::SectionHeader header = zumtest::LongHeader(tableId, extension, version);
+    header.protocolVersion = 0;
+    return header;
+}
+
+// TVCT, channel ETT, EIT-0..7, ETT-0..7 and the rating region table.
+Bytes Mgt(unsigned version)
+{
+    std::vector<std::pair<unsigned, unsigned>> tables = {{0x0000, 0x1FFB}, {0x0004, 0x1E80}};
+    for (unsigned i = 0; i < 8; ++i)
+        tables.push_back({0x0100 + i, 0x1D00 + i});
+    for (unsigned i = 0; i < 8; ++i)
+        tables.push_back({0x0200 + i, 0x1E00 + i});
+    tables.push_back({0x0301, 0x1FFB});
+    SectionBuilder s(PsipHeader(0xC7, 0x0000, version));
+    s.U16(static_cast<unsigned>(tables.size()));
+    for (const auto& t : tables)
+        s.U16(t.first).U16(0xE000 | t.second).U8(0xE0 | version).U32(0x400 + t.second).Begin16().End();
+    s.Begin16().End();
+    return s.Build();
+}
+
+// Eight channels 10.1 to 10.8, each with an English long name and the
+// location of its video and two audio streams.
+Bytes Tvct(unsigned version)
+{
+    SectionBuilder s(PsipHeader(0xC8, kTransportStreamId, version));
+    s.U8(static_cast<unsigned>(kTvctChannels));
+    for (unsigned i = 0; i < static_cast<unsigned>(kTvctChannels); ++i) {
+        const std::string shortName = "KULX-" + std::to_string(i + 1);
+        for (size_t c = 0; c < 7; ++c)
+            s.U16(c < shortName.size() ? static_cast<unsigned char>(shortName[c]) : 0);
+        s.U24(0xF00000u | (10u << 10) | (i + 1)).U8(0x04).U32(0).U16(kTransportStreamId).U16(i + 1);
+        s.U8(0x0D).U8(0xC2).U16(i + 1); // ETM none, hide_guide 0, ATSC digital television
+        const std::string name = "KULX Channel " + std::to_string(i + 1);
+        const unsigned pid = 0x31 + 0x10 * i;
+        s.Begin16(10, 0xFC00);
+        s.Descriptor(0xA0, Concat({{0x01}, Text("eng"), {0x01, 0x00, 0x00, static_cast<uint8_t>(name.size())},
+                                   Text(name)}));
+        s.Descriptor(0xA1, Concat({U16(0xE000 | pid), {0x03},
+                                   {0x02}, U16(0xE000 | pid), {0, 0, 0},
+                                   {0x81}, U16(0xE000 | (pid + 3)), Text("eng"),
+                                   {0x81}, U16(0xE000 | (pid + 4)), Text("spa")}));
+        s.End();
+    }
+    s.Begin16(10, 0xFC00).End();
+    return s.Build();
+}
+
 Table Make(Family family)
 {
     Table t;
@@ -277,6 +348,7 @@ Table Make(Family family)
         case Family::Pat: t.pid = kPidPat; t.tableId = 0x00; t.versions[v] = {Pat(version)}; break;
         case Family::Pmt: t.pid = kPidPmt; t.tableId = 0x02; t.versions[v] = {Pmt(version)}; break;
         case Family::Nit: t.pid = kPidNit; t.tableId = 0x40; t.versions[v] = Nit(version); break;
+        case Family::Bat: t.pid = kPidSdt; t.tableId = 0x4A; t.versions[v] = Bat(version); break;
         case Family::Sdt: t.pid = kPidSdt; t.tableId = 0x42; t.versions[v] = Sdt(version); break;
         case Family::EitPf: t.pid = kPidEit; t.tableId = 0x4E; t.versions[v] = EitPresentFollowing(version); break;
         case Family::EitSchedule: t.pid = kPidEit; t.tableId = 0x50; t.versions[v] = EitSchedule(version, false); break;
@@ -286,6 +358,8 @@ Table Make(Family family)
             t.versions[v] = EitSchedule(version, true);
             break;
         case Family::DescriptorLoop: t.pid = kPidEit; t.tableId = 0x4E; t.versions[v] = {RichEventLoop(1)}; break;
+        case Family::Mgt: t.pid = kPidPsip; t.tableId = 0xC7; t.versions[v] = {Mgt(version)}; break;
+        case Family::Tvct: t.pid = kPidPsip; t.tableId = 0xC8; t.versions[v] = {Tvct(version)}; break;
         }
     }
     return t;
@@ -304,9 +378,10 @@ size_t Table::TotalBytes() const
 const std::vector<Family>& AllFamilies()
 {
     static const std::vector<Family> all = {Family::Pat,         Family::Pmt,
-                                            Family::Nit,         Family::Sdt,
+                                            Family::Nit,         Family::Bat,         Family::Sdt,
                                             Family::EitPf,       Family::EitSchedule,
-                                            Family::EitScheduleCompressed, Family::DescriptorLoop};
+                                            Family::EitScheduleCompressed, Family::DescriptorLoop,
+                                            Family::Mgt,         Family::Tvct};
     return all;
 }
 
@@ -316,11 +391,14 @@ const char* FamilyName(Family family)
     case Family::Pat: return "PAT";
     case Family::Pmt: return "PMT";
     case Family::Nit: return "NIT";
+    case Family::Bat: return "BAT";
     case Family::Sdt: return "SDT";
     case Family::EitPf: return "EIT-pf";
     case Family::EitSchedule: return "EIT-sched";
     case Family::EitScheduleCompressed: return "EIT-sched-zlib";
     case Family::DescriptorLoop: return "DescLoop";
+    case Family::Mgt: return "MGT";
+    case Family::Tvct: return "TVCT";
     }
     return "?";
 }
@@ -331,11 +409,14 @@ int DecodedByPeers(Family family)
     case Family::Pat: return kPatPrograms;
     case Family::Pmt: return kPmtDescriptors - 3;          // CA twice and AC-3 stay raw
     case Family::Nit: return 2 + 4 * kNitTransportStreams; // network names; 0x5A, 0x41, 0x5F, 0x83 each
+    case Family::Bat: return 4 + 4 * kNitTransportStreams; // bouquet names and linkages; the streams as the NIT's
     case Family::Sdt: return kSdtServices;
     case Family::EitPf: return 2 * kDescriptorLoopDescriptors;
     case Family::EitSchedule: return 2 * kEitScheduleEventsPerSection * 4;
     case Family::EitScheduleCompressed: return -1;
     case Family::DescriptorLoop: return kDescriptorLoopDescriptors;
+    case Family::Mgt: return kMgtTables;
+    case Family::Tvct: return kTvctChannels;
     }
     return -1;
 }

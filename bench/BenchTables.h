@@ -17,7 +17,7 @@ namespace zumbench {
 
 using zumtest::Bytes;
 
-enum class Family { Pat, Pmt, Nit, Sdt, EitPf, EitSchedule, EitScheduleCompressed, DescriptorLoop };
+enum class Family { Pat, Pmt, Nit, Bat, Sdt, EitPf, EitSchedule, EitScheduleCompressed, DescriptorLoop, Mgt, Tvct };
 
 const std::vector<Family>& AllFamilies();
 const char* FamilyName(Family family);
@@ -41,6 +41,7 @@ const Table& TableOf(Family family);
 constexpr unsigned kTransportStreamId = 0x1001;
 constexpr unsigned kOriginalNetworkId = 0x3001;
 constexpr unsigned kNetworkId = 0x3001;
+constexpr unsigned kBouquetId = 0x6252;
 constexpr unsigned kProgramNumber = 0x0101;
 constexpr unsigned kEitServiceId = 0x0101;
 constexpr unsigned kPrivateDataSpecifier = 0x00000028;
@@ -53,9 +54,13 @@ constexpr int kNitTransportStreams = 20;
 constexpr int kSdtServices = 40;
 constexpr int kEitScheduleEventsPerSection = 10;
 constexpr int kDescriptorLoopDescriptors = 7;
+constexpr int kMgtTables = 19;
+constexpr int kTvctChannels = 8;
 
 // What a peer's pass must decode, so that no benchmark times a refusal: the
-// descriptors that the library decodes into objects (the PAT: its programs).
+// descriptors that the library decodes into objects (the PAT: its programs;
+// the MGT and TVCT: their table entries and channels, since GStreamer decodes
+// no PSIP descriptor).
 int DecodedByPeers(Family family);
 
 } // namespace zumbench

@@ -5,8 +5,13 @@
 #include <cstring>
 #include <memory>
 
+#include <zum-platform/PlatformConfig.h>
+
+#include <zum-parser/atsc/MGTParser.h>
+#include <zum-parser/atsc/VCTParser.h>
 #include <zum-parser/core/Descriptor.h>
 #include <zum-parser/core/DescriptorHash.h>
+#include <zum-parser/dvb/DVBBATParser.h>
 #include <zum-parser/dvb/DVBEITParser.h>
 #include <zum-parser/dvb/DVBNITParser.h>
 #include <zum-parser/dvb/DVBSDTParser.h>
@@ -101,6 +106,24 @@ void Nit(benchmark::State& state)
         return state.SkipWithError("NIT transport stream descriptors missing");
     // Per pass: two sections, 20 transport streams with delivery, service
     // list and (under the specifier) logical channel descriptors.
+    RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
+}
+
+void Bat(benchmark::State& state)
+{
+    const Table& table = TableOf(Family::Bat);
+    ReportHeld<TCDVBBATParser>(state, table, kHandle);
+    TCDVBBATParser parser(kHandle);
+    parser.Initialize();
+    const TCDVBBATInstance* bouquet = nullptr;
+    if (!Prime(parser, table) || !(bouquet = parser.GetInstance(kBouquetId)) ||
+        bouquet->NumOfDVBItemMux() != kNitTransportStreams || bouquet->NumOfDescriptors(0x4A) != 2)
+        return state.SkipWithError("BAT not decoded");
+    const TCDVBItemMux* mux = bouquet->DVBItemMuxOfIndex(0);
+    if (!mux || mux->NumOfDescriptors(0x41) != 1 || mux->NumOfDescriptors(0x83) != 1)
+        return state.SkipWithError("BAT transport stream descriptors missing");
+    // Per pass: two sections, bouquet names and linkages, 20 transport streams
+    // with the NIT's descriptors.
     RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
 }
 
@@ -201,6 +224,45 @@ void DescriptorLoop(benchmark::State& state)
     RunPasses(state, table, [&](uint64_t) { benchmark::DoNotOptimize(decode()); });
 }
 
+// The PSIP tables are read as a North American receiver reads them: under an
+// ATSC country, which picks the PSIP descriptor factory.
+class AtscCountry {
+public:
+    AtscCountry() : m_saved(zum_platform::Binder().countryCode) { zum_platform::Binder().countryCode = ZumPackCode("USA"); }
+    ~AtscCountry() { zum_platform::Binder().countryCode = m_saved; }
+    AtscCountry(const AtscCountry&) = delete;
+    AtscCountry& operator=(const AtscCountry&) = delete;
+
+private:
+    ECountryCode m_saved;
+};
+
+void Mgt(benchmark::State& state)
+{
+    const AtscCountry country;
+    const Table& table = TableOf(Family::Mgt);
+    TCMGTParser parser(kHandle);
+    parser.Initialize();
+    if (!Prime(parser, table) || parser.NumOfTable() != static_cast<unsigned>(kMgtTables))
+        return state.SkipWithError("MGT not decoded");
+    // Per pass: a version change and 19 table entries with their (empty) loops.
+    RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
+}
+
+void Tvct(benchmark::State& state)
+{
+    const AtscCountry country;
+    const Table& table = TableOf(Family::Tvct);
+    TCTVCTParser parser(kHandle);
+    parser.Initialize();
+    if (!Prime(parser, table) || parser.NumOfVCTChannel() != static_cast<unsigned>(kTvctChannels) ||
+        parser.VCTChannel(0)->NumOfDescriptors(0xA0) != 1 || parser.VCTChannel(0)->NumOfDescriptors(0xA1) != 1)
+        return state.SkipWithError("TVCT not decoded");
+    // Per pass: a version change, eight channels, each with its long name read
+    // into a multiple string structure and its service location.
+    RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
+}
+
 } // namespace
 
 void RegisterZum(Family family)
@@ -209,6 +271,7 @@ void RegisterZum(Family family)
     case Family::Pat: Register(family, kZum, Pat); break;
     case Family::Pmt: Register(family, kZum, Pmt); break;
     case Family::Nit: Register(family, kZum, Nit); break;
+    case Family::Bat: Register(family, kZum, Bat); break;
     case Family::Sdt: Register(family, kZum, Sdt); break;
     case Family::EitPf:
     case Family::EitSchedule:
@@ -217,6 +280,8 @@ void RegisterZum(Family family)
         Register(family, kZumRaw, [family](benchmark::State& state) { Eit(state, family, false); });
         break;
     case Family::DescriptorLoop: Register(family, kZum, DescriptorLoop); break;
+    case Family::Mgt: Register(family, kZum, Mgt); break;
+    case Family::Tvct: Register(family, kZum, Tvct); break;
     }
 }
 

@@ -1,10 +1,16 @@
 // Writes samples/sample.ts: one pass of PAT, PMTs, NIT, SDT, EIT
 // present/following, an EIT schedule (plain and zlib-compressed), TDT and TOT
 // of a small fictional DVB-T network, from the values named below.
-// Usage: zum-gen-sample OUTPUT   ("-" for standard output)
+// Usage: zum-gen-sample [--megabytes N] OUTPUT   ("-" for standard output)
+// With --megabytes, a long stream of about N MB for throughput and memory
+// checks: the sample's tables again and again, each pass followed by packets on
+// the elementary PIDs, as a multiplex carries mostly audio and video.
 
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -426,22 +432,87 @@ Bytes Sample()
     return out;
 }
 
+constexpr size_t kPacket = 188;
+// Audio and video packets after each pass of the tables: about 1.5 % of the
+// stream is SI, as in a broadcast multiplex.
+constexpr int kPesPacketsPerPass = 1000;
+// Each elementary stream's PES packets span this many TS packets.
+constexpr int kPacketsPerPes = 20;
+
+// Sets the continuity counter of a packet to the next one of its PID.
+void Count(uint8_t* packet, std::map<uint16_t, uint8_t>& counters)
+{
+    const uint16_t pid = static_cast<uint16_t>(((packet[1] & 0x1F) << 8) | packet[2]);
+    uint8_t& cc = counters[pid];
+    packet[3] = static_cast<uint8_t>((packet[3] & 0xF0) | cc);
+    cc = static_cast<uint8_t>((cc + 1) & 0x0F);
+}
+
+// Passes of the sample's packets and of payload packets on the elementary
+// PIDs, whole passes only, until at least `bytes`; the continuity counters run on.
+bool WriteLong(FILE* file, unsigned long long bytes)
+{
+    const Bytes sample = Sample();
+    std::vector<std::pair<uint16_t, uint8_t>> pids; // PID, PES stream_id
+    for (const Service& service : kServices)
+        for (const Stream& stream : service.streams)
+            pids.emplace_back(stream.pid, stream.kind == Kind::Video   ? 0xE0
+                                          : stream.kind == Kind::Audio ? 0xC0
+                                                                       : 0xBD);
+    std::map<uint16_t, uint8_t> counters;
+    Bytes pass;
+    unsigned long long written = 0;
+    while (written < bytes) {
+        pass = sample;
+        for (int i = 0; i < kPesPacketsPerPass; ++i) {
+            const auto& stream = pids[static_cast<size_t>(i) % pids.size()];
+            const bool start = (i / static_cast<int>(pids.size())) % kPacketsPerPes == 0;
+            uint8_t packet[kPacket];
+            std::memset(packet, static_cast<int>(i & 0xFF), sizeof packet);
+            packet[0] = 0x47;
+            packet[1] = static_cast<uint8_t>((start ? 0x40 : 0x00) | (stream.first >> 8));
+            packet[2] = static_cast<uint8_t>(stream.first);
+            packet[3] = 0x10; // payload only
+            if (start) {
+                // A PES header without timestamps: start code, stream_id, length 0 (unbounded), flags.
+                const uint8_t header[] = {0x00, 0x00, 0x01, stream.second, 0x00, 0x00, 0x80, 0x00, 0x00};
+                std::memcpy(packet + 4, header, sizeof header);
+            }
+            pass.insert(pass.end(), packet, packet + kPacket);
+        }
+        for (size_t at = 0; at < pass.size(); at += kPacket)
+            Count(&pass[at], counters);
+        if (std::fwrite(pass.data(), 1, pass.size(), file) != pass.size())
+            return false;
+        written += pass.size();
+    }
+    return true;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: %s OUTPUT   (\"-\" for standard output)\n", argv[0]);
+    unsigned long long megabytes = 0;
+    if (argc == 4 && std::strcmp(argv[1], "--megabytes") == 0)
+        megabytes = std::strtoull(argv[2], nullptr, 10);
+    if ((argc != 2 && argc != 4) || (argc == 4 && megabytes == 0)) {
+        std::fprintf(stderr, "usage: %s [--megabytes N] OUTPUT   (\"-\" for standard output)\n", argv[0]);
         return 2;
     }
-    const Bytes sample = Sample();
-    const std::string path = argv[1];
+    const std::string path = argv[argc - 1];
     FILE* file = path == "-" ? stdout : std::fopen(path.c_str(), "wb");
     if (file == nullptr) {
         std::perror(path.c_str());
         return 1;
     }
-    const bool written = std::fwrite(sample.data(), 1, sample.size(), file) == sample.size();
+    bool written = false;
+    if (megabytes > 0) {
+        written = WriteLong(file, megabytes * 1000000ULL);
+    } else {
+        const Bytes sample = Sample();
+        written = std::fwrite(sample.data(), 1, sample.size(), file) == sample.size();
+    }
     const bool closed = file == stdout ? std::fflush(file) == 0 : std::fclose(file) == 0;
     if (!written || !closed) {
         std::fprintf(stderr, "%s: write failed\n", path.c_str());

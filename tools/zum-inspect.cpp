@@ -19,6 +19,7 @@
 #include "inspect/OsdtView.h"
 #include "inspect/Renderers.h"
 #include "inspect/Session.h"
+#include "inspect/Views.h"
 
 namespace {
 
@@ -30,7 +31,13 @@ const char kUsage[] =
     "Decodes an MPEG transport stream (188-, 192- or 204-byte packets) or a file of\n"
     "sections back to back, read from FILE or standard input, and prints its tables.\n"
     "\n"
-    "  --json              print the model as JSON instead of a tree\n"
+    "  --json              print the model (or the view) as JSON instead of a tree\n"
+    "  --pid N             only the tables seen on PID N\n"
+    "  --table T           only table T, by id (0x42) or name (\"SDT actual\", \"EIT\", \"PMT\")\n"
+    "  --service S         only service S, by id (0x0101) or name (\"ZUM One\")\n"
+    "  --summary           only the input and the summary (demux, routing, PIDs, tables)\n"
+    "  --services          one line per service, as a scan lists them\n"
+    "  --events            one line per event, by service and start time\n"
     "  --country XXX       receiver country, three letters (e.g. GBR, TUR, USA, JPN)\n"
     "  --operator N        receiver operator number\n"
     "  --pds 0xNNNNNNNN    receiver private data specifier\n"
@@ -46,12 +53,18 @@ const char kUsage[] =
     "  -v                  library log lines from DEBUG up on standard error\n"
     "  --help              this text\n";
 
+enum class View { Model, Summary, Services, Events };
+
 struct Options {
     zuminspect::InspectSettings settings;
     std::string path = "-";
     std::string osdtPath;
     std::string charset;
     bool json = false;
+    View view = View::Model;
+    std::optional<unsigned int> pid;
+    std::string table;
+    std::string service;
     bool quietProgress = false;
     bool verbose = false;
 };
@@ -76,6 +89,7 @@ std::optional<Options> ParseCommandLine(int argc, char** argv, int& exitCode)
 {
     Options o;
     bool havePath = false;
+    unsigned int pid = 0;
     exitCode = 2;
     for (int i = 1; i < argc; ++i) {
         const std::string arg = argv[i];
@@ -86,6 +100,15 @@ std::optional<Options> ParseCommandLine(int argc, char** argv, int& exitCode)
             return std::nullopt;
         } else if (arg == "--json") {
             o.json = true;
+        } else if ((arg == "--summary" || arg == "--services" || arg == "--events") && o.view == View::Model) {
+            o.view = arg == "--summary" ? View::Summary : arg == "--services" ? View::Services : View::Events;
+        } else if (arg == "--pid" && hasValue && ParseNumber(argv[i + 1], pid) && pid <= 0x1FFF) {
+            o.pid = pid;
+            ++i;
+        } else if (arg == "--table" && hasValue && *argv[i + 1] != '\0') {
+            o.table = argv[++i];
+        } else if (arg == "--service" && hasValue && *argv[i + 1] != '\0') {
+            o.service = argv[++i];
         } else if (arg == "--quiet-progress") {
             o.quietProgress = true;
         } else if (arg == "--all-pids") {
@@ -115,22 +138,30 @@ std::optional<Options> ParseCommandLine(int argc, char** argv, int& exitCode)
     return o;
 }
 
-// "read 1.2 MiB / 4.0 MiB" on one refreshed line, at most every 200 ms.
+// "read 1.2 MiB / 4.0 MiB (30%), 180.0 MB/s, 5120 sections" on one refreshed line,
+// at most every 200 ms.
 class Progress {
 public:
-    Progress(bool enabled, long long total) : m_enabled(enabled), m_total(total) {}
+    Progress(bool enabled, long long total)
+        : m_enabled(enabled), m_total(total), m_start(std::chrono::steady_clock::now())
+    {
+    }
 
-    void Update(unsigned long long done)
+    void Update(unsigned long long done, unsigned long long sections)
     {
         const auto now = std::chrono::steady_clock::now();
         if (!m_enabled || now - m_last < std::chrono::milliseconds(200))
             return;
         m_last = now;
+        const double seconds = std::chrono::duration<double>(now - m_start).count();
+        const double rate = seconds > 0 ? done / 1e6 / seconds : 0;
         if (m_total > 0)
-            std::fprintf(stderr, "\rzum-inspect: %.1f / %.1f MiB (%d%%)", done / 1048576.0, m_total / 1048576.0,
-                         static_cast<int>(done * 100 / static_cast<unsigned long long>(m_total)));
+            std::fprintf(stderr, "\rzum-inspect: %.1f / %.1f MiB (%d%%), %.1f MB/s, %llu sections\033[K",
+                         done / 1048576.0, m_total / 1048576.0,
+                         static_cast<int>(done * 100 / static_cast<unsigned long long>(m_total)), rate, sections);
         else
-            std::fprintf(stderr, "\rzum-inspect: %.1f MiB", done / 1048576.0);
+            std::fprintf(stderr, "\rzum-inspect: %.1f MiB, %.1f MB/s, %llu sections\033[K", done / 1048576.0, rate,
+                         sections);
         m_shown = true;
     }
 
@@ -144,6 +175,7 @@ private:
     bool m_enabled;
     long long m_total;
     bool m_shown = false;
+    std::chrono::steady_clock::time_point m_start;
     std::chrono::steady_clock::time_point m_last{};
 };
 
@@ -184,7 +216,7 @@ int main(int argc, char** argv)
     while (got > 0) {
         session.Feed(chunk.data(), got);
         done += got;
-        progress.Update(done);
+        progress.Update(done, session.Stats().sections);
         got = std::fread(chunk.data(), 1, chunk.size(), file);
     }
     progress.Clear();
@@ -197,10 +229,36 @@ int main(int argc, char** argv)
     }
     session.Finish();
 
-    const zuminspect::Json model = session.Model();
+    const zuminspect::Json whole = session.Model();
+    zuminspect::ModelFilter filter;
+    filter.pid = options->pid;
+    filter.table = options->table;
+    if (!options->service.empty()) {
+        filter.serviceIds = zuminspect::ResolveServices(whole, options->service);
+        if (filter.serviceIds.empty()) {
+            std::fprintf(stderr, "zum-inspect: no service named \"%s\"\n", options->service.c_str());
+            return 1;
+        }
+    }
+    const zuminspect::Json model = zuminspect::FilterModel(whole, filter);
+    // What the view shows, and how the tree prints it.
+    zuminspect::Json shown;
+    void (*tree)(const zuminspect::Json&, std::ostream&) = zuminspect::RenderTree;
+    switch (options->view) {
+    case View::Model: shown = model; break;
+    case View::Summary: shown = zuminspect::SummaryOnly(model); break;
+    case View::Services:
+        shown = zuminspect::ServiceList(model);
+        tree = zuminspect::RenderServiceLines;
+        break;
+    case View::Events:
+        shown = zuminspect::EventList(model);
+        tree = zuminspect::RenderEventLines;
+        break;
+    }
     if (options->json)
-        zuminspect::RenderJson(model, std::cout);
+        zuminspect::RenderJson(shown, std::cout);
     else
-        zuminspect::RenderTree(model, std::cout);
+        tree(shown, std::cout);
     return std::cout.flush() ? 0 : 1;
 }

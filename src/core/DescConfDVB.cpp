@@ -11,6 +11,7 @@
 #include "../dvb/DescPrivateDataSpecifier.h"
 #include "../dvb/DescService.h"
 #include "../dvb/DescShortEvent.h"
+#include "../dvb/DescLinkage.h"
 #include "../dvb/DescLocalTimeOffset.h"
 #include "../dvb/DescSatelliteDeliverySystem.h"
 #include "../operators/DescDishTVGenre.h"
@@ -28,6 +29,7 @@ TCDescConfDVB::TCDescConfDVB(const ZUMHandle& handle) : m_handle(handle) {}
 TCBaseDesc* TCDescConfDVB::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
 {
     switch (tag) {
+    case 0x03: return new TCDescSSULocation();
     case 0x40: return new TCDescNetworkName();
     case 0x41: return new TCDescServiceList();
     case 0x43: return new TCDescSatelliteDeliverySystem(0x43);
@@ -35,6 +37,7 @@ TCBaseDesc* TCDescConfDVB::NewDescriptor(int tag, const unsigned char* data, uns
     case 0x47: return new TCDescBouquetName();
     case 0x48: return new TCDescService();
     case 0x49: return new TCDescCountryAvailability();
+    case 0x4A: return new TCDescLinkage();
     case 0x4D: return new TCDescShortEvent();
     case 0x4E: return new TCDescExtendedEvent();
     case 0x50: return new TCDescComponent(0);
@@ -47,6 +50,8 @@ TCBaseDesc* TCDescConfDVB::NewDescriptor(int tag, const unsigned char* data, uns
     case 0x5D: return new TCDescMultilingualServiceName();
     case 0x5F: return new TCDescPrivateDataSpecifier();
     case 0x62: return new TCDescFrequencyList();
+    case 0x64: return new TCDescDataBroadcast();
+    case 0x66: return new TCDescDataBroadcastId();
     case 0x7E: return new TCDescFTAContentManagement();
     case 0x7F: return TCDescExtension::ProcessExtensionDescriptor(data, pds);
     default: return t_ProcessPrivateDesc(tag, pds);

@@ -3,20 +3,25 @@
 #include <zum-platform/Binder.h>
 
 #include "DescExtension.h"
+#include "../atsc/DescExtendedChannelName.h"
 #include "../dvb/DescComponent.h"
 #include "../dvb/DescContent.h"
 #include "../dvb/DescLanguage.h"
+#include "../dvb/DescLinkage.h"
 #include "../dvb/DescPrivateDataSpecifier.h"
 #include "../dvb/DescServiceMove.h"
 #include "../isdb/DescEmergencyInformation.h"
 #include "../operators/DescFSatLinkage.h"
 #include "PrivateTag.h"
+#include "../psi/DescCA.h"
 
 TCBaseDesc* TCDescConfPSIBase::NewDescriptor(int tag, const unsigned char* /*data*/, unsigned int /*pds*/)
 {
     switch (tag) {
+    case 0x09: return new TCDescCA();
     case 0x0A: return new TCDescLanguage();
     case 0x52: return new TCDescStreamIdentifier();
+    case 0x66: return new TCDescDataBroadcastId();
     default: return new TCDescDefault(tag);
     }
 }
@@ -94,6 +99,7 @@ TCBaseDesc* TCDescConfPsiISDB::NewDescriptor(int tag, const unsigned char* data,
 TCBaseDesc* TCDescConfPsiATSC::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
 {
     switch (tag) {
+    case 0xA3: return new TCDescComponentName();
     default: return TCDescConfPSIBase::NewDescriptor(tag, data, pds);
     }
 }

@@ -6,6 +6,7 @@
 #include <zum-platform/Binder.h>
 
 #include "../dvb/DescContent.h"
+#include "../dvb/DescLinkage.h"
 #include "../operators/DescDishTVGenre.h"
 
 #include "DescConfDS.h"
@@ -23,6 +24,8 @@ constexpr unsigned int kNoSpecifier = 0xFFFFFFFF;
 // The one specifier whose own descriptor is stored in the loop.
 constexpr unsigned int kSpecifierKeptInLoop = 0x000022C6;
 constexpr unsigned int kSpecifierFreesat = 0x46534154; // "FSAT"
+constexpr unsigned int kOperatorOwnLinkagesOnly = 70;
+constexpr unsigned int kSpecifierOwnLinkages = 0xBE;
 
 } // namespace
 
@@ -227,12 +230,20 @@ bool TCDescriptorDVB::t_checkContentDescriptor(TCBaseDesc* desc, unsigned int pd
     return dynamic_cast<TCDescDishTVGenre*>(desc) != nullptr;
 }
 
-bool TCDescriptorDVB::t_CheckLinkageDescriptor(TCBaseDesc* desc, unsigned int /*pds*/)
+bool TCDescriptorDVB::t_CheckLinkageDescriptor(TCBaseDesc* desc, unsigned int pds)
 {
     if (desc->Tag() != 0x4A)
         return true;
-    // Until linkage descriptors decode, the tag stands as an unknown one.
-    return dynamic_cast<TCDescDefault*>(desc) != nullptr;
+    TCDescLinkage* linkage = dynamic_cast<TCDescLinkage*>(desc);
+    if (!linkage)
+        return false;
+    linkage->SetPDSD(pds);
+    const unsigned char type = linkage->LinkageType();
+    IBinder* binder = IBinder::Instance();
+    // This operator's user-defined linkages are only its own (specifier 0xBE).
+    if (type >= 0x80 && type <= 0xFE && binder)
+        return !(binder->GetOperator(m_handle) == kOperatorOwnLinkagesOnly && pds != kSpecifierOwnLinkages);
+    return true;
 }
 
 TCDescConfBase* TCDescriptorDVB::t_GetDescConf(unsigned char tableId)

@@ -11,6 +11,7 @@
 
 #include "core/Descriptor.h"
 #include "core/DescriptorHash.h"
+#include "dvb/DVBBATParser.h"
 #include "dvb/DVBNITParser.h"
 #include "operators/DescFSatGuidance.h"
 #include "operators/DescFSatLinkage.h"
@@ -151,7 +152,7 @@ TEST(DescFSatLogicalChannel, FlagsFirstAndLastAndCutBodies)
     }
 }
 
-// The NIT's priority: 0x83 (D-Book numbers) before 0x82, then Freesat's 0xD3, then 0xB0.
+// The NIT's and BAT's priority: 0x83 (D-Book numbers) before 0x82, then Freesat's 0xD3, then 0xB0.
 TEST(DescFSatLogicalChannel, PlaceInTheChannelNumberPriority)
 {
     zumtest::BinderScope binder;
@@ -159,28 +160,36 @@ TEST(DescFSatLogicalChannel, PlaceInTheChannelNumberPriority)
     const Bytes loop = Concat({Pds(0x233A), Desc(0x83, {0x10, 0x3F, 0xFC, 0x01}),
                                Pds(kFsat), Desc(0xD3, Lcn({{0x103F, 1, {{kNV, 101, 1}}}, {0x1B5D, 2, {{kNV, 101, 1}}}})),
                                Pds(0x22), Desc(0xB0, {0x1B, 0x5D, 0x00, 0x09, 0x20, 0x00, 0x00, 0x0A})});
-    zumtest::SectionBuilder b(zumtest::LongHeader(0x40, 0x3B, 1));
-    b.Begin16(12).End().Begin16(12).U16(0x7D5).U16(2).Begin16(12).Raw(loop).End().End();
-    const Bytes section = b.Build();
+    // The same transport stream loop in a NIT and in a Freesat bouquet.
+    const auto section = [&](unsigned tableId) {
+        zumtest::SectionBuilder b(zumtest::LongHeader(tableId, 0x3B, 1));
+        b.Begin16(12).End().Begin16(12).U16(0x7D5).U16(2).Begin16(12).Raw(loop).End().End();
+        return b.Build();
+    };
+    const Bytes nitSection = section(0x40), batSection = section(0x4A);
     TCDVBNITParser nit(0x40, ZUMHandle());
     nit.Initialize();
-    ASSERT_TRUE(nit.Parse(0x10, section.data()));
-    const TCDVBItemMux* mux = nit.DVBItemMux(0x7D5, 0);
-    ASSERT_NE(mux, nullptr);
+    ASSERT_TRUE(nit.Parse(0x10, nitSection.data()));
+    TCDVBBATParser bat{ZUMHandle()};
+    bat.Initialize();
+    ASSERT_TRUE(bat.Parse(0x11, batSection.data()));
     const ECountryCode gbr = ZumPackCode("GBR");
-    IDescLogicalChannel* dbook = mux->LCNDescriptorbyPriority(false, 0x103F, gbr, false);
-    ASSERT_NE(dbook, nullptr);
-    EXPECT_EQ(dbook->LogicalChannelNumber(0x103F), 1u);
-    IDescLogicalChannel* fsat = mux->LCNDescriptorbyPriority(true, 0x1B5D, gbr, true);
-    ASSERT_NE(fsat, nullptr);
-    unsigned short fsid = 0;
-    EXPECT_TRUE(fsat->FreesatServiceId(0x1B5D, fsid));
-    EXPECT_EQ(fsat->LogicalChannelNumber(0x1B5D), 0xFFFFFFFFu);
-    EXPECT_EQ(fsat->First(1)->channelNumber, 101);
-    IDescLogicalChannel* other = mux->LCNDescriptorbyPriority(false, 0x2000, gbr, false);
-    ASSERT_NE(other, nullptr);
-    EXPECT_EQ(other->LogicalChannelNumber(0x2000), 10u);
-    EXPECT_EQ(mux->LCNDescriptor(0x1B5D, 0xD3, gbr), fsat);
+    for (const TCDVBItemMux* mux : {nit.DVBItemMux(0x7D5, 0), bat.GetInstance(0x3B)->DVBItemMux(0x7D5)}) {
+        ASSERT_NE(mux, nullptr);
+        IDescLogicalChannel* dbook = mux->LCNDescriptorbyPriority(false, 0x103F, gbr, false);
+        ASSERT_NE(dbook, nullptr);
+        EXPECT_EQ(dbook->LogicalChannelNumber(0x103F), 1u);
+        IDescLogicalChannel* fsat = mux->LCNDescriptorbyPriority(true, 0x1B5D, gbr, true);
+        ASSERT_NE(fsat, nullptr);
+        unsigned short fsid = 0;
+        EXPECT_TRUE(fsat->FreesatServiceId(0x1B5D, fsid));
+        EXPECT_EQ(fsat->LogicalChannelNumber(0x1B5D), 0xFFFFFFFFu);
+        EXPECT_EQ(fsat->First(1)->channelNumber, 101);
+        IDescLogicalChannel* other = mux->LCNDescriptorbyPriority(false, 0x2000, gbr, false);
+        ASSERT_NE(other, nullptr);
+        EXPECT_EQ(other->LogicalChannelNumber(0x2000), 10u);
+        EXPECT_EQ(mux->LCNDescriptor(0x1B5D, 0xD3, gbr), fsat);
+    }
 }
 
 TEST(DescFSat, FactoryRows)

@@ -59,9 +59,23 @@ TEST(InspectDescribers, FieldsForKnownClassesRawForTheRest)
         // The one specifier that the loop keeps as an object of its own.
         {zumtest::Desc(0x5F, {0, 0, 0x22, 0xC6}), "0x5F", "TCDescPrivateDataSpecifier", "/privateDataSpecifier",
          "0x000022C6"},
-        {zumtest::Desc(0x4A, {0x01}), "0x4A", "TCDescDefault", nullptr, "4a 01 01"},
+        {zumtest::Desc(0x4B, {0x01}), "0x4B", "TCDescDefault", nullptr, "4b 01 01"},
+        {zumtest::Desc(0x4A, {0, 1, 0, 2, 0, 3, 0x09, 4, 0x00, 0x01, 0x5A, 0}), "0x4A", "TCDescLinkage",
+         "/ouis/0/oui", "0x00015A"},
+        {zumtest::Desc(0x4A, {0, 1, 0, 2, 0, 3, 0x0D, 0x12, 0x34, 0x40}), "0x4A", "TCDescLinkage", "/linkageName",
+         "event linkage"},
         {zumtest::Desc(0x7F, {0x04, 0x00, 0x12, 0x34}), "0x7F04", "TCDescT2SystemDelivery", "/t2SystemId", 0x1234},
         {zumtest::Desc(0x7F, {0x20, 0xAA}), "0x7F20", "TCDescExtension", nullptr, "7f 02 20 aa"},
+        // All ones: the centre frequency is not given.
+        {zumtest::Desc(0x5A, {0xFF, 0xFF, 0xFF, 0xFF, 0x1F, 0x92, 0x41, 0xFF, 0xFF, 0xFF, 0xFF}), "0x5A",
+         "TCDescTerrestrialDeliverySystem", "/centreFrequencyHz", nullptr},
+        // 11.765 GHz east, circular left, roll-off 0.25, DVB-S2 8PSK, 3/4: names from the byte as sent.
+        {zumtest::Desc(0x43, {0x01, 0x17, 0x65, 0x00, 0x01, 0x92, 0xCE, 0x02, 0x75, 0x00, 0x03}), "0x43",
+         "TCDescSatelliteDeliverySystem", "/polarizationName", "circular left"},
+        {zumtest::Desc(0x43, {0x01, 0x17, 0x65, 0x00, 0x01, 0x92, 0xCE, 0x02, 0x75, 0x00, 0x03}), "0x43",
+         "TCDescSatelliteDeliverySystem", "/rollOffName", "0.25"},
+        {zumtest::Desc(0x43, {0x01, 0x17, 0x65, 0x00, 0x01, 0x92, 0xCE, 0x02, 0x75, 0x00, 0x03}), "0x43",
+         "TCDescSatelliteDeliverySystem", "/modulationName", "8PSK"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.className);
@@ -116,7 +130,8 @@ TEST(InspectRouter, RoutesLikeReceiverFiltersAndKeepsEventsOfTheCurrentVersion)
         {0x0000, 0x00, "TCPATParser"},    {0x0100, 0x02, ""},               {0x0012, 0x85, "TCDVBEITParser"},
         // Without a PID a shared table id names a parser only once a section decided it.
         {0x0030, 0x85, "TCDVBLCNParser"}, {kNoPid, 0x85, ""},               {kNoPid, 0x9F, ""},
-        {0x0011, 0x4A, ""},               {0x0011, 0x46, "TCDVBSDTParser"}, {0x0012, 0x42, ""},
+        {0x0011, 0x4A, "TCDVBBATParser"}, {0x0011, 0x46, "TCDVBSDTParser"}, {0x0012, 0x42, ""},
+        {0x0001, 0x01, "TCDVBCATParser"}, {0x0012, 0x4A, ""},               {0x0011, 0x01, ""},
         {0x0014, 0x73, "TCDVBTOTParser"}, {0x0020, 0x41, ""},               {0x0012, 0x70, ""},
     };
     for (const Case& c : beforePat)
@@ -135,7 +150,8 @@ TEST(InspectRouter, RoutesLikeReceiverFiltersAndKeepsEventsOfTheCurrentVersion)
     EXPECT_EQ(router.ParserName(0x0101, 0x02), "");
     EXPECT_EQ(router.Complete(0x0000, 0x00), true);
     EXPECT_EQ(router.Complete(0x0100, 0x02), false); // no PMT yet
-    EXPECT_EQ(router.Complete(0x0011, 0x4A), std::nullopt);
+    EXPECT_EQ(router.Complete(0x0012, 0x4A), std::nullopt);
+    EXPECT_EQ(router.Complete(0x0011, 0x4A), false); // no bouquet yet
 
     Router everything(kZUMDefaultHandle, true);
     EXPECT_TRUE(everything.Wants(0x1234));

@@ -119,11 +119,11 @@ TEST(InspectTableIds, FrequenciesNotGiven)
     const Json model = Inspect(nit.Build(), "GBR");
     const Json& loop = model.at("nits").at(0).at("transportStreams").at(0).at("descriptors");
     ASSERT_EQ(loop.size(), 5u);
-    EXPECT_EQ(loop[0]["fields"]["centreFrequencyHz"], "not given");
-    EXPECT_EQ(loop[1]["fields"]["frequencyKHz"], "not given");
-    EXPECT_EQ(loop[2]["fields"]["frequencyKHz"], "not given");
-    EXPECT_EQ(loop[3]["fields"]["frequenciesMHz"], Json::array({"not given", 10.0}));
-    EXPECT_EQ(loop[4]["fields"]["cells"][0]["centreFrequencies"], Json::array({"not given"}));
+    EXPECT_EQ(loop[0]["fields"]["centreFrequencyHz"], nullptr);
+    EXPECT_EQ(loop[1]["fields"]["frequencyKHz"], nullptr);
+    EXPECT_EQ(loop[2]["fields"]["frequencyKHz"], nullptr);
+    EXPECT_EQ(loop[3]["fields"]["frequenciesMHz"], Json::array({nullptr, 10.0}));
+    EXPECT_EQ(loop[4]["fields"]["cells"][0]["centreFrequencies"], Json::array({nullptr}));
 }
 
 // Text without a selector byte: the standards' table unless the country's

@@ -223,10 +223,13 @@ TEST(InspectSample, EveryTableWholeFieldsDecodedAndTree)
     std::ostringstream tree;
     zuminspect::RenderTree(model, tree);
     for (const char* line : {"PAT  transport stream 0x1001, network PID 0x0010",
-                             "service 0x0103 \"Türkçe Haber\"  type 0x16, provider \"ZUM Broadcast\"",
-                             "service 0x0202  type 0x02  channel 700 (from 0x83)",
-                             "0x80 event 0x1004  2026-11-14T04:00:00Z  01:00:00  running 0, free CA no",
-                             "TOT  2026-11-14T01:20:00Z"})
+                             "service 0x0103 \"Türkçe Haber\"  type 0x16 (H.264/AVC SD digital television service), "
+                             "provider \"ZUM Broadcast\", running 4 (running)",
+                             "service 0x0202  type 0x02 (digital radio sound service)  channel 700 (from 0x83)",
+                             "0x80 event 0x1004  2026-11-14 04:00:00 UTC (local 04:00:00 +00:00)  1:00:00  "
+                             "running 0 (undefined), free CA no",
+                             "centreFrequencyHz: 490 MHz, bandwidth: 0 (8 MHz), constellation: 2 (64-QAM)",
+                             "TOT  2026-11-14 01:20:00 UTC (local 01:20:00 +00:00)"})
         EXPECT_NE(tree.str().find(line), std::string::npos) << line;
 }
 
@@ -398,6 +401,13 @@ TEST_P(InspectCapture, NoSectionLostByTheTool)
     if (manifest != kManifest.end()) {
         EXPECT_EQ(SectionCounts(model), manifest->second);
         EXPECT_EQ(At(model, "/summary/demux/crcErrors"), 0);
+    }
+    if (GetParam() == "tsduck_tsduck__psi_bat_cplus_packets.ts") { // the BAT on the SDT's PID
+        EXPECT_EQ(At(model, "/bats/0/bouquetId"), 0xC003);
+        EXPECT_EQ(Find(model["summary"]["tables"], {{"tableId", "0x4A"}}).value("parser", Json()), "TCDVBBATParser");
+    }
+    if (GetParam() == "tsduck_tsduck__psi_cat_r3_packets.ts") {
+        EXPECT_EQ(At(model, "/cat/descriptors/0/class"), "TCDescCA");
     }
     if (GetParam() == "tsduck_tsduck-test__test-030.ts") { // PID 0x0112 carries EIT sections damaged on air
         const Json eit = Find(model["summary"]["pids"], {{"pid", 0x0112}});

@@ -16,10 +16,12 @@
 #include "core/BaseDesc.h"
 #include "core/DescriptorContainer.h"
 #include "dvb/DescCAIdentifier.h"
+#include "inspect/AtscView.h"
 #include "dvb/DescComponent.h"
 #include "dvb/DescContent.h"
 #include "dvb/DescCountryAvailability.h"
 #include "dvb/DescLanguage.h"
+#include "dvb/DescLinkage.h"
 #include "dvb/DescLocalTimeOffset.h"
 #include "dvb/DescMultilingualNetworkName.h"
 #include "dvb/DescNetworkName.h"
@@ -33,7 +35,11 @@
 #include "inspect/FreesatView.h"
 #include "isdb/DescEmergencyInformation.h"
 #include "operators/DescLogicalChannel.h"
+#include "inspect/LinkageView.h"
 #include "operators/DescLogicalChannelV2.h"
+#include "psi/DescCA.h"
+
+#include "inspect/Names.h"
 
 namespace zuminspect {
 
@@ -42,6 +48,17 @@ namespace {
 // Runs a copy accessor of the library into a buffer of the announced length
 // and decodes what it wrote. `copy(buffer, &size)` follows the library's
 // contract: capacity in, bytes written out.
+// The descriptor as sent, tag and length first; empty when it cannot be copied.
+std::vector<unsigned char> RawBytes(const TCBaseDesc& desc)
+{
+    std::vector<unsigned char> raw(static_cast<size_t>(std::max(desc.Length(), 0)));
+    int size = static_cast<int>(raw.size());
+    if (raw.empty() || !desc.GetDescriptor(raw.data(), &size) || size <= 0)
+        return {};
+    raw.resize(std::min(raw.size(), static_cast<size_t>(size)));
+    return raw;
+}
+
 template <class Char, class Size, class Copy>
 std::string CopiedText(const TextDecoder& text, long length, Copy copy)
 {
@@ -83,6 +100,7 @@ Json MultilingualBouquetName(const TCDescMultilingualBouquetName& d, const TextD
 Json Service(const TCDescService& d, const TextDecoder& text)
 {
     return {{"serviceType", d.ServiceType()},
+            {"serviceTypeName", ServiceTypeName(d.ServiceType(), text.System())},
             {"provider", CopiedText<unsigned char, unsigned short>(text, d.ServiceProviderNameLength(),
                                                                    [&](auto* b, auto* s) {
                                                                        return d.ServiceProviderNameText(b, *s);
@@ -92,11 +110,13 @@ Json Service(const TCDescService& d, const TextDecoder& text)
              })}};
 }
 
-Json ServiceList(const TCDescServiceList& d, const TextDecoder&)
+Json ServiceList(const TCDescServiceList& d, const TextDecoder& text)
 {
     Json services = Json::array();
     for (int i = 0; i < d.NumberOfLoop(); ++i)
-        services.push_back({{"serviceId", d.ServiceId(i)}, {"serviceType", d.ServiceType(i)}});
+        services.push_back({{"serviceId", d.ServiceId(i)},
+                            {"serviceType", d.ServiceType(i)},
+                            {"serviceTypeName", ServiceTypeName(d.ServiceType(i), text.System())}});
     return {{"services", services}};
 }
 
@@ -138,11 +158,11 @@ Json MultilingualServiceName(const TCDescMultilingualServiceName& d, const TextD
 
 // ---- delivery systems ------------------------------------------------------
 
-// A frequency that the stream sends as all ones is marked "not given".
+// A frequency that the stream sends as all ones is not given: null, which the tree shows as "not given".
 template <class T>
 Json FrequencyOrNotGiven(T value, bool notGiven)
 {
-    return notGiven ? Json("not given") : Json(value);
+    return notGiven ? Json(nullptr) : Json(value);
 }
 
 // Whether the four payload bytes from `at` of the raw descriptor are all ones.
@@ -157,31 +177,59 @@ bool AllOnesAt(const TCBaseDesc& d, int at)
 
 Json SatelliteDelivery(const TCDescSatelliteDeliverySystem& d, const TextDecoder&)
 {
-    return {{"frequencyKHz", FrequencyOrNotGiven(d.Frequency(), AllOnesAt(d, 0))},
-            {"symbolRateKsps", d.SymbolRate()},
-            {"orbitalPosition", d.OrbitalPosition()}, {"east", d.WestEastFlag() != 0},
-            {"polarization", d.Polarization()},       {"modulation", d.Modulation()},
-            {"fecInner", d.FecInner()}};
+    Json out = {{"frequencyKHz", FrequencyOrNotGiven(d.Frequency(), AllOnesAt(d, 0))},
+                {"symbolRateKsps", d.SymbolRate()},
+                {"orbitalPosition", d.OrbitalPosition()},
+                {"east", d.WestEastFlag() != 0},
+                {"polarization", d.Polarization()},
+                {"modulation", d.Modulation()},
+                {"modulationName", FrontEndModulationName(d.Modulation())},
+                {"fecInner", d.FecInner()},
+                {"fecInnerName", FrontEndCodeRateName(d.FecInner())}};
+    // The library keeps one polarisation bit and neither roll-off nor system: the byte as sent tells them.
+    const std::vector<unsigned char> raw = RawBytes(d);
+    if (raw.size() > 8) {
+        const unsigned char flags = raw[8];
+        out["polarizationName"] = PolarisationName((flags >> 5) & 0x03);
+        out["modulationSystem"] = (flags >> 2) & 0x01;
+        out["modulationSystemName"] = SatelliteModulationSystemName((flags >> 2) & 0x01);
+        if ((flags & 0x04) != 0) {
+            out["rollOff"] = (flags >> 3) & 0x03;
+            out["rollOffName"] = RollOffName((flags >> 3) & 0x03);
+        }
+    }
+    return out;
 }
 
 Json CableDelivery(const TCDescCableDeliverySystem& d, const TextDecoder&)
 {
     return {{"frequencyKHz", FrequencyOrNotGiven(d.Frequency(), AllOnesAt(d, 0))},
             {"modulation", d.ModulationCode()},
+            {"modulationName", CableModulationName(d.ModulationCode())},
             {"symbolRateKsps", d.SymbolRate()},
-            {"fecOuter", d.FecOuter()},      {"fecInner", d.FecInner()}};
+            {"fecOuter", d.FecOuter()},
+            {"fecOuterName", OuterFecName(d.FecOuter())},
+            {"fecInner", d.FecInner()},
+            {"fecInnerName", InnerFecName(d.FecInner())}};
 }
 
 Json TerrestrialDelivery(const TCDescTerrestrialDeliverySystem& d, const TextDecoder&)
 {
     return {{"centreFrequencyHz", FrequencyOrNotGiven(10ULL * d.CentreFrequency(), d.CentreFrequency() == 0xFFFFFFFF)},
             {"bandwidth", d.Bandwidth()},
+            {"bandwidthName", TerrestrialBandwidthName(d.Bandwidth())},
             {"constellation", d.Constellation()},
+            {"constellationName", ConstellationName(d.Constellation())},
             {"hierarchy", d.Hierarchy()},
+            {"hierarchyName", HierarchyName(d.Hierarchy())},
             {"codeRateHP", d.CodeRateHP()},
+            {"codeRateHPName", TerrestrialCodeRateName(d.CodeRateHP())},
             {"codeRateLP", d.CodeRateLP()},
+            {"codeRateLPName", TerrestrialCodeRateName(d.CodeRateLP())},
             {"guardInterval", d.GuardInterval()},
+            {"guardIntervalName", GuardIntervalName(d.GuardInterval())},
             {"transmissionMode", d.TransmissionMode()},
+            {"transmissionModeName", TransmissionModeName(d.TransmissionMode())},
             {"otherFrequency", d.OtherFrequencyFlag() != 0}};
 }
 
@@ -199,9 +247,13 @@ Json T2Delivery(const TCDescT2SystemDelivery& d, const TextDecoder&)
     return {{"plpId", d.PlpId()},
             {"t2SystemId", d.T2SystemId()},
             {"sisoMiso", d.SisoMiso()},
+            {"sisoMisoName", SisoMisoName(d.SisoMiso())},
             {"bandwidth", d.Bandwidth()},
+            {"bandwidthName", FrontEndBandwidthName(d.Bandwidth())},
             {"guardInterval", d.GuardInterval()},
+            {"guardIntervalName", T2GuardIntervalName(d.GuardInterval())},
             {"transmissionMode", d.TransmissionMode()},
+            {"transmissionModeName", T2TransmissionModeName(d.TransmissionMode())},
             {"otherFrequency", d.OtherFrequencyFlag() != 0},
             {"tfs", d.TfsFlag() != 0},
             {"cells", cellList}};
@@ -251,6 +303,7 @@ Json Component(const TCDescComponent& d, const TextDecoder& text)
     return {{"streamContent", d.StreamContent()},
             {"streamContentExt", d.StreamContentExt()},
             {"componentType", d.ComponentType()},
+            {"componentTypeName", ComponentName(d.StreamContent(), d.StreamContentExt(), d.ComponentType())},
             {"componentTag", d.ComponentTag()},
             {"language", CodeText(d.Language())},
             {"text", CopiedText<char, int>(text, d.TextLength(), [&](auto* b, auto* s) { return d.TextChar(b, s); })}};
@@ -273,12 +326,14 @@ Json StreamIdentifier(const TCDescStreamIdentifier& d, const TextDecoder&)
     return {{"componentTag", d.ComponentTag()}};
 }
 
-Json Content(const TCDescContent& d, const TextDecoder&)
+Json Content(const TCDescContent& d, const TextDecoder& text)
 {
     Json entries = Json::array();
     for (int i = 0; i < d.Count(); ++i)
         entries.push_back({{"level1", d.ContentNibbleLevel1(i)},
+                           {"level1Name", ContentName(d.ContentNibbleLevel1(i), text.System())},
                            {"level2", d.ContentNibbleLevel2(i)},
+                           {"level2Name", ContentName(d.ContentNibbleLevel1(i), d.ContentNibbleLevel2(i), text.System())},
                            {"user1", d.UserNibble1(i)},
                            {"user2", d.UserNibble2(i)}});
     return {{"entries", entries}};
@@ -288,7 +343,9 @@ Json ParentalRating(const TCDescParentalRating& d, const TextDecoder&)
 {
     Json ratings = Json::array();
     for (int i = 0; i < d.Count(); ++i)
-        ratings.push_back({{"country", CodeText(d.CountryCode(i))}, {"rating", d.Rating(i)}});
+        ratings.push_back({{"country", CodeText(d.CountryCode(i))},
+                           {"rating", d.Rating(i)},
+                           {"ratingName", ParentalRatingName(d.Rating(i))}});
     return {{"ratings", ratings}};
 }
 
@@ -301,7 +358,9 @@ Json Language(const TCDescLanguage& d, const TextDecoder&)
         ELanguageCode language = 0;
         EAudioType audioType = AUDIO_TYPE_UNDEFINED;
         if (d.Language(i, &language, &audioType))
-            languages.push_back({{"language", CodeText(language)}, {"audioType", static_cast<int>(audioType)}});
+            languages.push_back({{"language", CodeText(language)},
+                                 {"audioType", static_cast<int>(audioType)},
+                                 {"audioTypeName", AudioTypeName(static_cast<unsigned>(audioType))}});
     }
     return {{"languages", languages}};
 }
@@ -312,6 +371,7 @@ Json Teletext(const TCDescTeletext& d, const TextDecoder&)
     for (int i = 0; i < d.Count(); ++i)
         pages.push_back({{"language", CodeText(d.Iso639LangCode(i))},
                          {"type", d.TeletextType(i)},
+                         {"typeName", TeletextTypeName(d.TeletextType(i))},
                          {"magazine", d.TeletextMagzineNumber(i)},
                          {"page", d.TeletextPageNumber(i)}});
     return {{"pages", pages}};
@@ -323,6 +383,7 @@ Json Subtitling(const TCDescSubtitling& d, const TextDecoder&)
     for (int i = 0; i < d.Count(); ++i)
         subtitles.push_back({{"language", CodeText(d.Iso639LangCode(i))},
                              {"type", d.SubtitlingType(i)},
+                             {"typeName", ComponentName(0x3, 0, d.SubtitlingType(i))},
                              {"compositionPageId", d.CompositionPageId(i)},
                              {"ancillaryPageId", d.AncillaryPageId(i)}});
     return {{"subtitles", subtitles}};
@@ -361,9 +422,12 @@ Json PrivateDataSpecifier(const TCDescPrivateDataSpecifier& d, const TextDecoder
 Json CAIdentifier(const TCDescCAIdentifier& d, const TextDecoder&)
 {
     Json ids = Json::array();
-    for (unsigned short id : d.CASystemIds())
+    Json names = Json::array();
+    for (unsigned short id : d.CASystemIds()) {
         ids.push_back(Hex(id, 4));
-    return {{"caSystemIds", ids}};
+        names.push_back(CaSystemName(id));
+    }
+    return {{"caSystemIds", ids}, {"caSystemNames", names}};
 }
 
 // ---- logical channels ------------------------------------------------------
@@ -459,6 +523,11 @@ DescriberTable MakeTable()
     Register<TCDescLogicalChannel>(t, LogicalChannel);
     Register<TCDescLogicalChannelV2>(t, LogicalChannelV2);
     Register<TCDescEmergencyInformation>(t, DescribeEmergencyInformation);
+    Register<TCDescLinkage>(t, LinkageFields);
+    Register<TCDescDataBroadcast>(t, DataBroadcastFields);
+    Register<TCDescDataBroadcastId>(t, DataBroadcastIdFields);
+    Register<TCDescSSULocation>(t, SSULocationFields);
+    Register<TCDescCA>(t, CAFields);
     return t;
 }
 
@@ -470,11 +539,8 @@ const DescriberTable& Describers()
 
 std::string RawHex(const TCBaseDesc& desc)
 {
-    std::vector<unsigned char> raw(static_cast<size_t>(desc.Length()));
-    int size = static_cast<int>(raw.size());
-    if (raw.empty() || !desc.GetDescriptor(raw.data(), &size) || size <= 0)
-        return std::string();
-    return HexBytes(raw.data(), std::min(raw.size(), static_cast<size_t>(size)));
+    const std::vector<unsigned char> raw = RawBytes(desc);
+    return HexBytes(raw.data(), raw.size());
 }
 
 } // namespace
@@ -497,6 +563,8 @@ Json DescribeDescriptor(const TCBaseDesc& desc, const TextDecoder& text)
     Json freesat;
     if (describer != Describers().end())
         out["fields"] = describer->second(desc, text);
+    else if (std::optional<Json> atsc = DescribeAtscDescriptor(desc))
+        out["fields"] = *atsc;
     else if (!(freesat = DescribeFreesat(desc, text)).is_null())
         out["fields"] = freesat;
     else

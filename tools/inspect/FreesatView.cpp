@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "dvb/DVBFSatPostCodeParser.h"
+#include "inspect/Names.h"
 #include "operators/DescFSatGuidance.h"
 #include "operators/DescFSatLinkage.h"
 #include "operators/DescFSatLogicalChannel.h"
@@ -182,6 +183,7 @@ Json DescribeFreesat(const TCBaseDesc& desc, const TextDecoder& text)
     if (auto* d = dynamic_cast<const TCDescContentManagementBase*>(&desc))
         return {{"doNotScramble", d->DoNotScramble()},
                 {"controlRemoteAccessOverInternet", d->ControlRemoteAccessOverInternet()},
+                {"controlRemoteAccessOverInternetName", ControlRemoteAccessName(d->ControlRemoteAccessOverInternet())},
                 {"doNotApplyRevocation", d->DoNotApplyRevocation()}};
     if (auto* d = dynamic_cast<const TCDescFSatTunnelledData*>(&desc)) {
         Json pairs = Json::array();

@@ -4,20 +4,26 @@
 #include <set>
 
 #include "core/Descriptor.h"
+#include "dvb/DVBBATParser.h"
 #include "dvb/DVBLCNParser.h"
 #include "dvb/DVBNITParser.h"
 #include "dvb/DVBSDTParser.h"
 #include "dvb/DVBTDTParser.h"
 #include "dvb/DVBTOTParser.h"
 #include "dvb/DescService.h"
+#include "dvb/DescLocalTimeOffset.h"
+#include "inspect/AtscView.h"
 #include "inspect/Describers.h"
 #include "inspect/EwsView.h"
+#include "inspect/Format.h"
+#include "inspect/Names.h"
 #include "inspect/Router.h"
 #include "inspect/SitView.h"
 #include "inspect/FreesatView.h"
 #include "inspect/TableIds.h"
 #include "inspect/TsDemux.h"
 #include "operators/DescLogicalChannel.h"
+#include "psi/DVBCATParser.h"
 #include "psi/PATParser.h"
 #include "psi/PMTParser.h"
 
@@ -27,6 +33,7 @@ namespace {
 
 constexpr int kTagServiceList = 0x41;
 constexpr int kTagService = 0x48;
+constexpr int kTagLocalTimeOffset = 0x58;
 constexpr uint32_t kUndefinedTime = 0xFFFFFFFF;
 constexpr uint32_t kUndefinedDuration = 0xFFFFFF;
 constexpr unsigned int kNoChannelNumber = 0xFFFFFFFF;
@@ -36,15 +43,19 @@ struct Builder {
     const DemuxStats& stats;
     const ModelContext& context;
     TextDecoder text;
+    LocalClock clock;
 
     Json Pat() const;
     Json Pmts() const;
     Json Nits() const;
+    Json Bats() const;
+    Json Cat() const;
     Json TransportStream(const TCDVBItemMux& mux) const;
     Json Sdts() const;
     Json SdtService(const TCDVBSDTItemService& service) const;
     Json Events() const;
     Json Event(const EitCollector::Event& event) const;
+    Json TimeObject(uint32_t time) const;
     Json Tdt() const;
     Json Tot() const;
     Json Lcn() const;
@@ -61,33 +72,22 @@ Json HexId(int tableId)
     return Hex(static_cast<unsigned>(tableId), 2);
 }
 
-std::string TableName(uint16_t pid, uint8_t tableId)
+// The offset of the receiver's country in the TOT, else of the TOT's first entry.
+LocalClock ClockOf(const TCDVBTOTParser* tot, ECountryCode country)
 {
-    if (tableId == 0x85 && pid != kPidEit)
-        return "LCN";
-    if (tableId >= 0x50 && tableId <= 0x5F)
-        return "EIT schedule actual";
-    if (tableId >= 0x60 && tableId <= 0x6F)
-        return "EIT schedule other";
-    if (tableId >= 0x80 && tableId <= 0x9F)
-        return "EIT compressed";
-    switch (tableId) {
-    case 0x00: return "PAT";
-    case 0x01: return "CAT";
-    case 0x02: return "PMT";
-    case 0x40: return "NIT actual";
-    case 0x41: return "NIT other";
-    case 0x42: return "SDT actual";
-    case 0x46: return "SDT other";
-    case 0x4A: return "BAT";
-    case 0x4E: return "EIT p/f actual";
-    case 0x4F: return "EIT p/f other";
-    case 0x70: return "TDT";
-    case 0x73: return "TOT";
-    case 0x74: return "AIT";
-    case 0xD5: return "SIT";
-    default: return "";
-    }
+    const auto* offsets = tot ? dynamic_cast<const TCDescLocalTimeOffset*>(tot->Descriptor(kTagLocalTimeOffset, 0))
+                              : nullptr;
+    if (offsets == nullptr || offsets->NumOfEntries() == 0)
+        return LocalClock();
+    int entry = 0;
+    for (int i = 0; i < offsets->NumOfEntries(); ++i)
+        if (static_cast<ECountryCode>(offsets->CountryCode(i)) == country) {
+            entry = i;
+            break;
+        }
+    const int sign = offsets->LocalTimeOffsetPolarity(entry) != 0 ? -1 : 1;
+    return LocalClock(CodeText(offsets->CountryCode(entry)), sign * offsets->LocalTimeOffset(entry),
+                      offsets->TimeOfChange(entry), sign * offsets->NextTimeOffset(entry));
 }
 
 Json Builder::Pat() const
@@ -116,6 +116,7 @@ Json Builder::Pmts() const
         for (int k = 0; k < program->NumOfElementary(); ++k) {
             const TCPMTElementary* stream = program->PMTElementary(static_cast<unsigned>(k));
             streams.push_back({{"streamType", stream->StreamType()},
+                               {"streamTypeName", StreamTypeName(stream->StreamType(), context.system)},
                                {"pid", stream->ElementaryPID()},
                                {"descriptors", DescribeLoop(*stream, text)}});
         }
@@ -142,6 +143,7 @@ Json Builder::TransportStream(const TCDVBItemMux& mux) const
             const auto* from = dynamic_cast<const TCBaseDesc*>(lcn);
             services.push_back({{"serviceId", serviceId},
                                 {"serviceType", list->ServiceType(s)},
+                                {"serviceTypeName", ServiceTypeName(list->ServiceType(s), context.system)},
                                 {"channelNumber", number != kNoChannelNumber ? Json(number) : Json(nullptr)},
                                 {"channelNumberTag", from ? HexId(from->Tag()) : Json(nullptr)}});
             const Json byRegion = FreesatNumbersByRegion(lcn, serviceId);
@@ -175,17 +177,51 @@ Json Builder::Nits() const
     return nits;
 }
 
+Json Builder::Bats() const
+{
+    Json bats = Json::array();
+    const TCDVBBATParser* bat = router.Bat();
+    std::list<unsigned short> ids;
+    if (bat != nullptr)
+        bat->BouquetIds(ids);
+    for (unsigned short id : ids) {
+        const TCDVBBATInstance* bouquet = bat->GetInstance(id);
+        Json streams = Json::array();
+        for (int i = 0; i < bouquet->NumOfDVBItemMux(); ++i)
+            streams.push_back(TransportStream(*bouquet->DVBItemMuxOfIndex(static_cast<unsigned>(i))));
+        bats.push_back({{"bouquetId", id},
+                        {"complete", bouquet->IsValid()},
+                        {"descriptors", DescribeLoop(*bouquet, text)},
+                        {"transportStreams", streams}});
+    }
+    return bats;
+}
+
+Json Builder::Cat() const
+{
+    const TCDVBCATParser* cat = router.Cat();
+    if (cat == nullptr)
+        return nullptr;
+    return {{"complete", cat->IsValid()}, {"descriptors", DescribeLoop(*cat, text)}};
+}
+
 Json Builder::SdtService(const TCDVBSDTItemService& service) const
 {
-    Json out = {{"serviceId", service.ServiceId()}, {"type", nullptr}, {"provider", nullptr}, {"name", nullptr}};
+    Json out = {{"serviceId", service.ServiceId()},
+                {"type", nullptr},
+                {"typeName", nullptr},
+                {"provider", nullptr},
+                {"name", nullptr}};
     if (const auto* d = dynamic_cast<const TCDescService*>(service.Descriptor(kTagService, 0))) {
         const Json described = DescribeDescriptor(*d, text);
         const Json& fields = described.at("fields");
         out["type"] = fields.at("serviceType");
+        out["typeName"] = fields.at("serviceTypeName");
         out["provider"] = fields.at("provider");
         out["name"] = fields.at("name");
     }
     out["runningStatus"] = service.RunningStatus();
+    out["runningStatusName"] = RunningStatusName(service.RunningStatus());
     out["freeCA"] = service.FreeCAMode() != 0;
     out["eitSchedule"] = service.EITScheduleFlag() != 0;
     out["eitPresentFollowing"] = service.EITPresentFollowingFlag() == 1;
@@ -221,14 +257,18 @@ Json Builder::Event(const EitCollector::Event& event) const
     if (!event.descriptors.empty())
         loop.Parse(event.descriptors.data(), static_cast<int>(event.descriptors.size()), hash,
                    EventLoopTableId(event.tableId));
+    const bool timed = event.startTime != kUndefinedTime;
     Json out = {{"tableId", HexId(event.tableId)},
                 {"section", event.section},
                 {"eventId", event.eventId},
-                {"start", event.startTime == kUndefinedTime ? Json(nullptr) : Json(IsoTimeSince1980(event.startTime))},
-                {"duration", event.duration == kUndefinedDuration ? Json(nullptr) : Json(event.duration)},
+                {"start", timed ? Json(IsoTimeSince1980(event.startTime)) : Json(nullptr)}};
+    if (clock.Known())
+        out["startLocal"] = timed ? Json(clock.Local(event.startTime)) : Json(nullptr);
+    out.update(Json{{"duration", event.duration == kUndefinedDuration ? Json(nullptr) : Json(event.duration)},
                 {"runningStatus", event.runningStatus},
+                {"runningStatusName", RunningStatusName(event.runningStatus)},
                 {"freeCA", event.freeCaMode != 0},
-                {"descriptors", DescribeLoop(hash, text)}};
+                {"descriptors", DescribeLoop(hash, text)}});
     if (hash.NumOfDescriptors() == 0 && !event.descriptors.empty())
         out["undecoded"] = HexBytes(event.descriptors.data(), event.descriptors.size());
     return out;
@@ -249,11 +289,19 @@ Json Builder::Events() const
     return services;
 }
 
+Json Builder::TimeObject(uint32_t time) const
+{
+    Json out = {{"time", IsoTimeSince1980(time)}};
+    if (clock.Known())
+        out["local"] = clock.Local(time);
+    return out;
+}
+
 Json Builder::Tdt() const
 {
     if (router.Tdt() == nullptr || !router.Complete(kNoPid, 0x70).value_or(false))
         return nullptr;
-    return {{"time", IsoTimeSince1980(router.Tdt()->Time())}};
+    return TimeObject(router.Tdt()->Time());
 }
 
 Json Builder::Tot() const
@@ -261,7 +309,9 @@ Json Builder::Tot() const
     const TCDVBTOTParser* tot = router.Tot();
     if (tot == nullptr || !router.Complete(kNoPid, 0x73).value_or(false))
         return nullptr;
-    return {{"time", IsoTimeSince1980(tot->Time())}, {"descriptors", DescribeLoop(*tot, text)}};
+    Json out = TimeObject(tot->Time());
+    out["descriptors"] = DescribeLoop(*tot, text);
+    return out;
 }
 
 Json Builder::Lcn() const
@@ -325,7 +375,8 @@ Json Builder::Summary() const
                 versions = counts->second.versions;
             tables.push_back({{"pid", PidValue(pid)},
                               {"tableId", HexId(tableId)},
-                              {"table", parser == "TCEWSParser" ? "emergency warning" : TableName(pid, tableId)},
+                              {"table", parser == "TCEWSParser" ? "emergency warning"
+                                                                 : TableIdName(tableId, context.system, pid)},
                               {"parser", parser.empty() ? Json(nullptr) : Json(parser)},
                               {"sections", sections != p.sectionsByTable.end() ? sections->second : 0},
                               {"versions", versions},
@@ -343,14 +394,19 @@ Json Builder::Summary() const
 
 Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContext& context)
 {
-    const Builder b{router, stats, context, TextDecoder(context.handle, context.language)};
+    const Builder b{router, stats, context, TextDecoder(context.handle, context.language, context.system),
+                    router.Tot() && router.Complete(kNoPid, 0x73).value_or(false) ? ClockOf(router.Tot(), context.country)
+                                                                                   : LocalClock()};
     return {{"input",
              {{"kind", context.sectionsInput ? "sections" : "transport stream"},
               {"packetSize", stats.packetSize != 0 ? Json(stats.packetSize) : Json(nullptr)},
-              {"bytes", context.bytes}}},
+              {"bytes", context.bytes},
+              {"system", SystemName(context.system)}}},
             {"pat", b.Pat()},
             {"pmts", b.Pmts()},
+            {"cat", b.Cat()},
             {"nits", b.Nits()},
+            {"bats", b.Bats()},
             {"sdts", b.Sdts()},
             {"eit", b.Events()},
             {"tdt", b.Tdt()},
@@ -358,6 +414,7 @@ Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContex
             {"lcn", b.Lcn()},
             {"ews", EwsModel(router, b.text)},
             {"sit", DescribeSit(router.Sit(), b.text)},
+            {"atsc", DescribeAtsc(router.Atsc(), b.text)},
             {"freesatPostCodes", FreesatPostCodes(router.FSatPostCodes())},
             {"summary", b.Summary()}};
 }

@@ -10,6 +10,7 @@
 #include <zum-platform/ZUMHandle.h>
 
 #include "inspect/Json.h"
+#include "inspect/Names.h"
 
 namespace zuminspect {
 
@@ -22,6 +23,7 @@ struct ModelContext {
     ELanguageCode language = 0; // hint for the text converter
     bool sectionsInput = false; // a file of sections, not a transport stream
     uint64_t bytes = 0;         // input size
+    BroadcastSystem system = BroadcastSystem::Dvb; // whose names the model gives
 };
 
 Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContext& context);

@@ -5,6 +5,8 @@
 #include <string>
 
 #include "inspect/EwsView.h"
+#include "inspect/AtscView.h"
+#include "inspect/Format.h"
 #include "inspect/FreesatView.h"
 #include "inspect/Text.h"
 
@@ -31,15 +33,18 @@ std::string HexOr(const Json& v, int digits)
     return v.is_number() ? Hex(v.get<unsigned long long>(), digits) : std::string("-");
 }
 
-std::string Duration(const Json& seconds)
+bool EndsWith(const std::string& text, const std::string& tail)
 {
-    if (!seconds.is_number())
-        return "-";
-    const unsigned long long s = seconds.get<unsigned long long>();
-    char buffer[32];
-    std::snprintf(buffer, sizeof buffer, "%02llu:%02llu:%02llu", s / 3600, s / 60 % 60, s % 60);
-    return buffer;
+    return text.size() >= tail.size() && text.compare(text.size() - tail.size(), tail.size(), tail) == 0;
 }
+
+// The field `key` of `object` as the tree shows it, with its name when the model has one.
+std::string Field(const Json& object, const std::string& key)
+{
+    const Json& name = object.contains(key + "Name") ? object[key + "Name"] : Json();
+    return TreeValue(key, object.contains(key) ? object[key] : Json(), name);
+}
+
 
 class Tree {
 public:
@@ -56,9 +61,12 @@ public:
         std::string line = head;
         const char* separator = head == "-" ? " " : "  ";
         for (const auto& item : fields.items()) {
-            if (item.value().is_structured())
+            const std::string& key = item.key();
+            // A name is shown beside its number.
+            if (item.value().is_structured() ||
+                (EndsWith(key, "Name") && fields.contains(key.substr(0, key.size() - 4))))
                 continue;
-            line += separator + item.key() + ": " + Value(item.value());
+            line += separator + key + ": " + Field(fields, key);
             separator = ", ";
         }
         Line(depth, line);
@@ -73,7 +81,7 @@ public:
             } else if (v.is_array()) {
                 std::string list;
                 for (const Json& element : v)
-                    list += (list.empty() ? "" : ", ") + Value(element);
+                    list += (list.empty() ? "" : ", ") + TreeValue(item.key(), element);
                 Line(depth + 1, item.key() + ": " + (list.empty() ? "none" : list));
             }
         }
@@ -107,7 +115,7 @@ public:
                         ", version " + Value(pmt["version"]) + ", PCR PID " + HexOr(pmt["pcrPid"], 4));
             Descriptors(1, pmt["descriptors"]);
             for (const Json& s : pmt["streams"]) {
-                Line(1, "stream type " + HexOr(s["streamType"], 2) + "  PID " + HexOr(s["pid"], 4));
+                Line(1, "stream type " + Field(s, "streamType") + "  PID " + HexOr(s["pid"], 4));
                 Descriptors(2, s["descriptors"]);
             }
         }
@@ -118,17 +126,39 @@ public:
         for (const Json& nit : nits) {
             Line(0, "NIT " + nit["tableId"].get<std::string>() + "  network " + HexOr(nit["networkId"], 4));
             Descriptors(1, nit["descriptors"]);
-            for (const Json& ts : nit["transportStreams"]) {
-                Line(1, "transport stream " + HexOr(ts["transportStreamId"], 4) + ", original network " +
+            TransportStreams(1, nit["transportStreams"]);
+        }
+    }
+
+    void TransportStreams(int depth, const Json& streams)
+    {
+        for (const Json& ts : streams) {
+            Line(depth, "transport stream " + HexOr(ts["transportStreamId"], 4) + ", original network " +
                             HexOr(ts["originalNetworkId"], 4));
-                Descriptors(2, ts["descriptors"]);
-                for (const Json& s : ts["services"]) {
-                    const Json& tag = s["channelNumberTag"];
-                    Line(2, "service " + HexOr(s["serviceId"], 4) + "  type " + HexOr(s["serviceType"], 2) +
-                                "  channel " + Value(s["channelNumber"]) +
-                                (tag.is_null() ? "" : " (from " + tag.get<std::string>() + ")"));
-                }
+            Descriptors(depth + 1, ts["descriptors"]);
+            for (const Json& s : ts["services"]) {
+                const Json& tag = s["channelNumberTag"];
+                Line(depth + 1, "service " + HexOr(s["serviceId"], 4) + "  type " + Field(s, "serviceType") +
+                                    "  channel " + Value(s["channelNumber"]) +
+                                    (tag.is_null() ? "" : " (from " + tag.get<std::string>() + ")"));
             }
+        }
+    }
+
+    void Cat(const Json& cat)
+    {
+        if (cat.is_null())
+            return;
+        Line(0, "CAT  complete " + Value(cat["complete"]));
+        Descriptors(1, cat["descriptors"]);
+    }
+
+    void Bats(const Json& bats)
+    {
+        for (const Json& bat : bats) {
+            Line(0, "BAT  bouquet " + HexOr(bat["bouquetId"], 4) + ", complete " + Value(bat["complete"]));
+            Descriptors(1, bat["descriptors"]);
+            TransportStreams(1, bat["transportStreams"]);
         }
     }
 
@@ -140,8 +170,9 @@ public:
                         HexOr(sdt["transportStreamId"], 4) + ", version " + Value(sdt["version"]));
             for (const Json& s : sdt["services"]) {
                 Line(1, "service " + HexOr(s["serviceId"], 4) + " " + Value(s["name"]) + "  type " +
-                            HexOr(s["type"], 2) + ", provider " + Value(s["provider"]) + ", running " +
-                            Value(s["runningStatus"]) + ", free CA " + Value(s["freeCA"]));
+                            TreeValue("serviceType", s["type"], s.value("typeName", Json())) + ", provider " +
+                            Value(s["provider"]) + ", running " + Field(s, "runningStatus") + ", free CA " +
+                            Value(s["freeCA"]));
                 Descriptors(2, s["descriptors"]);
             }
         }
@@ -155,9 +186,8 @@ public:
                         HexOr(service["transportStreamId"], 4) + ")");
             for (const Json& e : service["events"]) {
                 Line(1, e["tableId"].get<std::string>() + " event " + HexOr(e["eventId"], 4) + "  " +
-                            (e["start"].is_null() ? "-" : e["start"].get<std::string>()) + "  " +
-                            Duration(e["duration"]) + "  running " + Value(e["runningStatus"]) + ", free CA " +
-                            Value(e["freeCA"]));
+                            TimeAndLocalText(e["start"], e.value("startLocal", Json())) + "  " + Field(e, "duration") +
+                            "  running " + Field(e, "runningStatus") + ", free CA " + Value(e["freeCA"]));
                 Descriptors(2, e["descriptors"]);
                 if (e.contains("undecoded"))
                     Line(2, "undecoded: " + e["undecoded"].get<std::string>());
@@ -168,9 +198,9 @@ public:
     void Times(const Json& tdt, const Json& tot)
     {
         if (!tdt.is_null())
-            Line(0, "TDT  " + tdt["time"].get<std::string>());
+            Line(0, "TDT  " + TimeAndLocalText(tdt["time"], tdt.value("local", Json())));
         if (!tot.is_null()) {
-            Line(0, "TOT  " + tot["time"].get<std::string>());
+            Line(0, "TOT  " + TimeAndLocalText(tot["time"], tot.value("local", Json())));
             Descriptors(1, tot["descriptors"]);
         }
     }
@@ -199,6 +229,8 @@ public:
 
     void Summary(const Json& summary)
     {
+        if (summary.is_null())
+            return;
         const Json& d = summary["demux"];
         Line(0, "Summary");
         Line(1, "demux: " + Value(d["packets"]) + " packets of " + Value(d["packetSize"]) + " bytes, " +
@@ -251,22 +283,34 @@ void RenderObject(const std::string& head, const Json& fields, int depth, std::o
     Tree(out).Object(depth, head, fields);
 }
 
+void RenderDescriptors(const Json& list, int depth, std::ostream& out)
+{
+    Tree(out).Descriptors(depth, list);
+}
+
 void RenderTree(const Json& model, std::ostream& out)
 {
     Tree tree(out);
     const Json& input = model["input"];
-    tree.Line(0, "Input  " + input["kind"].get<std::string>() + ", " + Value(input["bytes"]) + " bytes");
-    tree.Pat(model["pat"]);
-    tree.Pmts(model["pmts"]);
-    tree.Nits(model["nits"]);
-    tree.Sdts(model["sdts"]);
-    tree.Events(model["eit"]);
-    tree.Times(model["tdt"], model["tot"]);
-    tree.Lcn(model["lcn"]);
-    RenderEwsTree(model["ews"], out);
-    RenderFreesatPostCodesTree(model["freesatPostCodes"], out);
-    tree.Sit(model["sit"]);
-    tree.Summary(model["summary"]);
+    tree.Line(0, "Input  " + input["kind"].get<std::string>() + ", " + Value(input["bytes"]) + " bytes" +
+                     (input.contains("system") ? ", " + input["system"].get<std::string>() + " names" : ""));
+    // A view of the model may leave parts out.
+    static const Json kAbsent;
+    const auto part = [&](const char* key) -> const Json& { return model.contains(key) ? model[key] : kAbsent; };
+    tree.Pat(part("pat"));
+    tree.Pmts(part("pmts"));
+    tree.Cat(part("cat"));
+    tree.Nits(part("nits"));
+    tree.Bats(part("bats"));
+    tree.Sdts(part("sdts"));
+    tree.Events(part("eit"));
+    tree.Times(part("tdt"), part("tot"));
+    tree.Lcn(part("lcn"));
+    RenderEwsTree(part("ews"), out);
+    RenderFreesatPostCodesTree(part("freesatPostCodes"), out);
+    tree.Sit(part("sit"));
+    RenderAtscTree(part("atsc"), out);
+    tree.Summary(part("summary"));
 }
 
 } // namespace zuminspect

@@ -4,6 +4,7 @@
 
 #include <zum-platform/Binder.h>
 
+#include "dvb/DVBBATParser.h"
 #include "dvb/DVBEITParser.h"
 #include "dvb/DVBLCNParser.h"
 #include "dvb/DVBNITParser.h"
@@ -11,9 +12,11 @@
 #include "dvb/DVBTDTParser.h"
 #include "dvb/DVBTOTParser.h"
 #include "inspect/TableIds.h"
+#include "inspect/AtscView.h"
 #include "inspect/TsDemux.h"
 #include "isdb/EWSParser.h"
 #include "program/SITParser.h"
+#include "psi/DVBCATParser.h"
 #include "dvb/DVBFSatPostCodeParser.h"
 #include "psi/PATParser.h"
 #include "psi/PMTParser.h"
@@ -60,15 +63,16 @@ bool AllValid(const Range& range, Valid valid)
 
 } // namespace
 
-Router::Router(const ZUMHandle& handle, bool allPids) : m_handle(handle), m_allPids(allPids), m_events(handle) {}
+Router::Router(const ZUMHandle& handle, bool allPids) : m_handle(handle), m_allPids(allPids), m_events(handle),
+      m_atsc(new AtscTables(handle)) {}
 
 Router::~Router() = default;
 
 bool Router::Wants(uint16_t pid) const
 {
-    return m_allPids || pid == kPidPat || pid == kPidNit || pid == kPidSdt || pid == kPidEit || pid == kPidTime ||
-           pid == kPidSit || pid == kNoPid || m_pmtPids.count(pid) > 0 || pid == m_networkPid ||
-           m_privateSectionPids.count(pid) > 0;
+    return m_allPids || pid == kPidPat || pid == kPidCat || pid == kPidNit || pid == kPidSdt || pid == kPidEit ||
+           pid == kPidTime || pid == kPidSit || pid == kNoPid || m_pmtPids.count(pid) > 0 || pid == m_networkPid ||
+           m_privateSectionPids.count(pid) > 0 || m_atsc->Wants(pid);
 }
 
 Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
@@ -87,6 +91,10 @@ Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
     // 0x80 is a compressed EIT on the EIT PID, the emergency warning table on a private-section stream.
     if (tableId == kTidEws && pid != kPidEit && m_privateSectionPids.count(pid) > 0)
         return Kind::Ews;
+    if (tableId == 0x4A && (any || pid == kPidSdt))
+        return Kind::Bat;
+    if (tableId == 0x01 && (any || pid == kPidCat))
+        return Kind::Cat;
     // 0x85 is a compressed EIT on the EIT PID and the channel number table anywhere else.
     if (IsEit(tableId) && (pid == kPidEit || (any && tableId != kTidLcn)))
     // 0x85 is a compressed EIT on the EIT PID and the channel number table
@@ -146,6 +154,8 @@ TCSectionParser* Router::m_Parser(Kind kind, uint8_t tableId)
     case Kind::Lcn: return Lazy(m_lcn, m_handle);
     case Kind::Ews: return Lazy(m_ews);
     case Kind::Sit: return Lazy(m_sit, static_cast<int>(tableId), m_handle);
+    case Kind::Bat: return Lazy(m_bat, m_handle);
+    case Kind::Cat: return Lazy(m_cat, m_handle);
     case Kind::FSatPostCode: return Lazy(m_fsatPostCodes, m_handle);
     case Kind::None: break;
     }
@@ -163,6 +173,8 @@ void Router::OnSection(uint16_t pid, const uint8_t* section, size_t size)
 
     const Kind kind = m_KindOfSection(pid, section, size);
     TCSectionParser* parser = m_Parser(kind, tableId);
+    if (parser == nullptr)
+        parser = m_atsc->Parser(pid, tableId);
     if (parser == nullptr) {
         ++counts.noParser;
         ++m_noParser;
@@ -185,6 +197,8 @@ void Router::OnSection(uint16_t pid, const uint8_t* section, size_t size)
         m_LearnPrivateSectionPids();
     else if (kind == Kind::Ews)
         m_ewsPids.insert(pid);
+    else if (kind == Kind::None)
+        m_atsc->Parsed(pid, tableId);
 }
 
 void Router::m_LearnPrivateSectionPids()
@@ -223,10 +237,12 @@ std::string Router::ParserName(uint16_t pid, uint8_t tableId) const
     case Kind::Lcn: return "TCDVBLCNParser";
     case Kind::Ews: return "TCEWSParser";
     case Kind::Sit: return "TCSITParser";
+    case Kind::Bat: return "TCDVBBATParser";
+    case Kind::Cat: return "TCDVBCATParser";
     case Kind::FSatPostCode: return "TCDVBFSatPostCodeParser";
     case Kind::None: break;
     }
-    return std::string();
+    return m_atsc->ParserName(pid, tableId);
 }
 
 std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
@@ -268,10 +284,17 @@ std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
     case Kind::Lcn: return m_lcn && m_lcn->IsRecv();
     case Kind::Ews: return m_ews && m_ews->IsValidTRDW() && m_ews->IsValidTCDW() && m_ews->IsValidTMDW();
     case Kind::Sit: return m_sit && m_sit->IsRecv();
+    case Kind::Bat: {
+        std::list<unsigned short> ids;
+        if (m_bat)
+            m_bat->BouquetIds(ids);
+        return AllValid(ids, [&](unsigned short id) { return m_bat->GetInstance(id)->IsValid(); });
+    }
+    case Kind::Cat: return m_cat && m_cat->IsValid();
     case Kind::FSatPostCode: return m_fsatPostCodes && m_fsatPostCodes->IsValid();
     case Kind::None: break;
     }
-    return std::nullopt;
+    return m_atsc->Complete(pid, tableId);
 }
 
 } // namespace zuminspect

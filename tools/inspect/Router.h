@@ -35,11 +35,18 @@ class TCDVBTOTParser;
 class TCDVBLCNParser;
 class TCEWSParser;
 class TCSITParser;
+class TCDVBBATParser;
+class TCDVBCATParser;
+
+namespace zuminspect {
+class AtscTables;
+}
 class TCDVBFSatPostCodeParser;
 
 namespace zuminspect {
 
 constexpr uint16_t kPidPat = 0x0000;
+constexpr uint16_t kPidCat = 0x0001;
 constexpr uint16_t kPidNit = 0x0010;
 constexpr uint16_t kPidSdt = 0x0011;
 constexpr uint16_t kPidEit = 0x0012;
@@ -86,15 +93,19 @@ public:
     const TCDVBTOTParser* Tot() const { return m_tot.get(); }
     const TCDVBLCNParser* Lcn() const { return m_lcn.get(); }
     const std::set<uint16_t>& LcnPids() const { return m_lcnPids; }
+    const TCDVBBATParser* Bat() const { return m_bat.get(); }
+    const TCDVBCATParser* Cat() const { return m_cat.get(); }
     const EitCollector& Events() const { return m_events; }
     const TCEWSParser* Ews() const { return m_ews.get(); }
     const std::set<uint16_t>& EwsPids() const { return m_ewsPids; }
 
     const TCSITParser* Sit() const { return m_sit.get(); }
+    // The PSIP tables on the base PID, with an ATSC country.
+    const AtscTables& Atsc() const { return *m_atsc; }
     const TCDVBFSatPostCodeParser* FSatPostCodes() const { return m_fsatPostCodes.get(); }
 
 private:
-    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit, FSatPostCode };
+    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit, Bat, Cat, FSatPostCode };
 
     Kind m_KindOf(uint16_t pid, uint8_t tableId) const;
     // As above, deciding a shared table id of a file of sections by country and section shape.
@@ -119,12 +130,15 @@ private:
     std::unique_ptr<TCDVBTOTParser> m_tot;
     std::unique_ptr<TCDVBLCNParser> m_lcn;
     std::set<uint16_t> m_lcnPids;
+    std::unique_ptr<TCDVBBATParser> m_bat;
+    std::unique_ptr<TCDVBCATParser> m_cat;
     std::set<uint8_t> m_timeTablesTaken;
     EitCollector m_events;
     std::unique_ptr<TCEWSParser> m_ews;
     std::set<uint16_t> m_privateSectionPids; // streams of type 0x05 in a PMT
     std::set<uint16_t> m_ewsPids;
     std::unique_ptr<TCSITParser> m_sit;
+    std::unique_ptr<AtscTables> m_atsc;
     std::unique_ptr<TCDVBFSatPostCodeParser> m_fsatPostCodes;
 
     // Without PIDs, the kind that sections of a shared table id went to.

@@ -26,6 +26,8 @@ zum_platform::BinderSettings BinderSettingsFor(const InspectSettings& settings)
     binder.operatorId = settings.operatorId;
     binder.privateDataSpecifier = settings.privateDataSpecifier;
     binder.languageCode = ZumPackCode(settings.language.c_str());
+    // The viewer reads North American text in the receiver's language.
+    binder.preferredLanguage = binder.languageCode;
     return binder;
 }
 
@@ -78,6 +80,7 @@ Json Session::Model() const
     context.language = ZumPackCode(m_settings.language.c_str());
     context.sectionsInput = m_kind == InputKind::Sections;
     context.bytes = m_bytes;
+    context.system = SystemOf(context.country, m_settings.operatorId);
     return BuildModel(m_router, m_demux.Stats(), context);
 }
 

@@ -11,6 +11,8 @@
 #include <zum-platform/Codes.h>
 #include <zum-platform/ZUMHandle.h>
 
+#include "inspect/Names.h"
+
 namespace zuminspect {
 
 // UTF-16 code units to UTF-8; a lone surrogate becomes U+FFFD.
@@ -19,14 +21,20 @@ std::string Utf16ToUtf8(const std::basic_string<unsigned short>& text);
 // Broadcast text (DVB/ISDB selector bytes first) to UTF-8 through the
 // platform's converter. What the converter refuses comes back with every byte
 // outside printable ASCII written as \xNN, so that nothing is hidden.
+// It also tells the describers which system's names to give.
 class TextDecoder {
 public:
-    TextDecoder(const ZUMHandle& handle, ELanguageCode language) : m_handle(handle), m_language(language) {}
+    TextDecoder(const ZUMHandle& handle, ELanguageCode language, BroadcastSystem system = BroadcastSystem::Dvb)
+        : m_handle(handle), m_language(language), m_system(system)
+    {
+    }
     std::string Decode(const unsigned char* data, size_t size) const;
+    BroadcastSystem System() const { return m_system; }
 
 private:
     ZUMHandle m_handle;
     ELanguageCode m_language;
+    BroadcastSystem m_system;
 };
 
 // A packed three-letter country or language code as its letters ("eng");
