@@ -23,6 +23,11 @@ bool ServiceNameCopy(const zum_text::TTText& text, unsigned char* buffer, unsign
 
 // ---------------------------------------------------------------- network name
 
+int TCDescMultilingualNetworkName::CmultiNetworkNameDesc::Parse(const unsigned char* data)
+{
+    return data ? Parse(data, 4 + data[3]) : 0;
+}
+
 int TCDescMultilingualNetworkName::CmultiNetworkNameDesc::Parse(const unsigned char* data, int size)
 {
     TCByteReader reader(data, size);

@@ -16,6 +16,8 @@ public:
     // outlive the record (the descriptor's raw copy for its own records).
     class CmultiNetworkNameDesc {
     public:
+        // The record as it stands: language, length, and the name it claims.
+        int Parse(const unsigned char* data);
         int Parse(const unsigned char* data, int size);
         unsigned int Language() const { return m_language; }
         unsigned char NetworkNameLength() const { return static_cast<unsigned char>(m_networkName.length); }

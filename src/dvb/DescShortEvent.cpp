@@ -37,9 +37,10 @@ int TCDescShortEvent::t_Parse(const unsigned char* payload, unsigned char length
 {
     DeleteAll();
     TCByteReader reader(payload, length);
+    // Without the name length byte, 4 + the name length already reaches the end.
     if (!reader.Has(4)) {
         m_language = reader.Has(3) ? reader.U24() : 0;
-        return reader.Consumed();
+        return length;
     }
     m_language = reader.U24();
     const int nameLength = static_cast<int>(reader.U8());
@@ -47,11 +48,12 @@ int TCDescShortEvent::t_Parse(const unsigned char* payload, unsigned char length
     // A name that reaches the end leaves no text length to read.
     if (4 + nameLength >= length)
         return length;
+    const int textLengthAt = reader.Consumed();
     m_textLength = static_cast<unsigned char>(reader.U8());
-    const int position = reader.Consumed();
-    // A text that runs over is not kept; its length stays as read.
-    if (m_textLength > length - position)
-        return position;
+    // A text that runs over is not kept; its length stays as read, and the
+    // hook answers where that length stands.
+    if (m_textLength > length - reader.Consumed())
+        return textLengthAt;
     m_text = zum_text::TakeRun<TTRawRun>(reader, payload, m_textLength);
     return reader.Consumed();
 }
@@ -161,9 +163,10 @@ int TCDescExtendedEvent::t_Parse(const unsigned char* payload, unsigned char len
         return itemsStart;
     const int textLength = payload[itemsStart + m_lengthOfItems];
     const int position = itemsStart + m_lengthOfItems + 1;
-    // A text that runs over keeps neither text nor items.
+    // A text that runs over keeps neither text nor items; the hook answers
+    // where its length stands.
     if (textLength > length - position)
-        return position;
+        return position - 1;
 
     m_items.Count(payload + itemsStart, m_lengthOfItems);
     m_text = t_Run(payload, payload + position, textLength);

@@ -12,7 +12,6 @@ namespace {
 
 const int kEntrySize = 4;
 // Country code and services loop length behind a list's name.
-const int kListTailSize = 4;
 const ECountryCode kAnyCountry = 0xFFFF00;
 
 // Lower-case letters count as upper-case.
@@ -60,17 +59,22 @@ int TCDescLogicalChannelV2::t_Parse(const unsigned char* payload, unsigned char 
             break;
         const unsigned int listId = reader.U8();
         const int nameLength = static_cast<int>(reader.U8());
-        if (!reader.Has(nameLength + kListTailSize))
+        // A name that reaches the body's end leaves nothing of the list to read.
+        if (nameLength >= reader.Left())
             break;
         TTList& list = m_ListOf(listId);
         list.held = true;
         list.name.assign(reinterpret_cast<const char*>(reader.Here()), static_cast<size_t>(nameLength));
         reader.Skip(nameLength);
-        const unsigned int c0 = CountryLetter(reader.U8());
-        const unsigned int c1 = CountryLetter(reader.U8());
-        const unsigned int c2 = CountryLetter(reader.U8());
-        list.country = (c0 << 16) | (c1 << 8) | c2;
+        // The country as far as the body goes; a cut list still takes part in the selection.
+        unsigned int country = 0;
+        for (int letter = 0; letter < 3; ++letter)
+            country = (country << 8) | (reader.Has(1) ? CountryLetter(reader.U8()) : 0);
+        list.country = country;
         m_UpdateSelection(listId, receiverCountry);
+        consumed = reader.Consumed();
+        if (!reader.Has(1))
+            break;
 
         const int loopLength = static_cast<int>(reader.U8());
         const int present = std::min(loopLength, reader.Left());

@@ -63,9 +63,10 @@ TEST(DescShortEvent, BodiesOfBothSystems)
         {{'e', 'n', 'g', 0, 0}, "eng <none> <none> 0"},
         {{'e', 'n', 'g', 3, 'A', 'B', 'C'}, "eng ABC <none> 0"},
         {{'e', 'n', 'g', 9, 'A', 'B'}, "eng AB <none> 0"},
-        {{'e', 'n', 'g', 1, 'A', 3, 'x', 'y'}, "eng A <none> 3", "inLen=8, outLen=6"}, // one byte over
+        // One byte over: the hook answers the position of the text length.
+        {{'e', 'n', 'g', 1, 'A', 3, 'x', 'y'}, "eng A <none> 3", "inLen=8, outLen=5"},
         {{'e', 'n', 'g'}, "eng <none> <none> 0"},
-        {{'e', 'n'}, "- <none> <none> 0", "inLen=2, outLen=0"},
+        {{'e', 'n'}, "- <none> <none> 0"}, // no name length: 4 reaches the end, the hook answers the length
     });
     ExpectBodies(0x4D, [] { return new TCDescShortEventISDB(); }, ShortEvent, {
         {{'e', 'n', 'g', 3, 'A', 'B', 'C'}, "eng ABC <none> 0"},
@@ -84,7 +85,7 @@ TEST(DescExtendedEvent, Bodies)
     textOver[textOver.size() - 4] = 4; // one byte more than the body holds
     ExpectBodies(0x4E, [] { return new TCDescExtendedEvent(); }, ExtendedEvent, {
         {ExtendedBody(0x12, kItems, "Long text"), "1 2 eng 16 2 Dir/Ann Cast/Bo Long text"},
-        {textOver, "0 1 eng 16 0 <none>", "inLen=25, outLen=22"},
+        {textOver, "0 1 eng 16 0 <none>", "inLen=25, outLen=21"}, // where the text length stands
         {{0x01, 'e', 'n', 'g', 2, 1, 'A'}, "0 1 eng 2 0 <none>", "inLen=7, outLen=5"},
         {{0x01, 'e', 'n', 'g', 0}, "0 1 eng 0 0 <none>"},
         {{0x01, 'e', 'n'}, "0 1 - 0 0 <none>", "inLen=3, outLen=1"},

@@ -305,9 +305,12 @@ TEST(DescLogicalChannelV2, TruncatedBodies)
     const struct { long cut; int consumed; const Lists& lists; int selected; unsigned services; bool binder = true; }
         cases[] = {
             {0, 0, none, -1, 0},    {1, 0, none, -1, 0},    {2, 0, none, -1, 0},
-            {7, 0, none, -1, 0}, // country there, loop length missing
+            {4, 0, none, -1, 0}, // the name reaches the end
+            // A name with fewer than 4 bytes behind it still stores the list and takes part in the selection.
+            {5, 5, first, 1, 0},    {7, 7, first, 1, 0},
             {8, 8, first, 1, 0},    {11, 8, first, 1, 0},   {12, 12, first, 1, 1},  {16, 16, first, 1, 2},
-            {17, 16, first, 1, 2},  {22, 16, first, 1, 2},  {23, 23, both, 2, 0},   {26, 23, both, 2, 0},
+            {17, 16, first, 1, 2},  {19, 16, first, 1, 2},  {20, 20, both, 1, 2},   {22, 22, both, 2, 0},
+            {23, 23, both, 2, 0},   {26, 23, both, 2, 0},
             {27, 27, both, 2, 1},   {27, 0, none, -1, 0, false}, // without a binder nothing is stored
         };
     for (const auto& c : cases) {
