@@ -50,6 +50,7 @@ TEST(InspectFreesat, ChannelNumbersByRegionAndPostCodes)
     EXPECT_EQ(model["freesatPostCodes"]["tree"], Json::parse(R"({"bytes": 2, "complete": true})"));
     std::ostringstream text;
     zuminspect::RenderTree(model, text);
+    EXPECT_NE(text.str().find("channel - (from 0xD3), region 1: 101, region 2: 952"), std::string::npos) << text.str();
     EXPECT_NE(text.str().find("FREESAT POSTCODES  tree: 2 bytes, region keys: 0 bytes"), std::string::npos) << text.str();
     bool named = false;
     for (const Json& t : model["summary"]["tables"])

@@ -130,6 +130,16 @@ public:
         }
     }
 
+    // Freesat's numbers of a service, region by region: ", region 1: 101, region 2: 952".
+    static std::string RegionNumbers(const Json& service)
+    {
+        std::string out;
+        if (service.contains("channelNumbersByRegion"))
+            for (const Json& n : service["channelNumbersByRegion"])
+                out += ", region " + Value(n["region"]) + ": " + Value(n["channelNumber"]);
+        return out;
+    }
+
     void TransportStreams(int depth, const Json& streams)
     {
         for (const Json& ts : streams) {
@@ -140,7 +150,8 @@ public:
                 const Json& tag = s["channelNumberTag"];
                 Line(depth + 1, "service " + HexOr(s["serviceId"], 4) + "  type " + Field(s, "serviceType") +
                                     "  channel " + Value(s["channelNumber"]) +
-                                    (tag.is_null() ? "" : " (from " + tag.get<std::string>() + ")"));
+                                    (tag.is_null() ? "" : " (from " + tag.get<std::string>() + ")") +
+                                    RegionNumbers(s));
             }
         }
     }
