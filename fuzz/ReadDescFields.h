@@ -10,6 +10,7 @@
 #include <set>
 #include <vector>
 
+#include "ReadAvFields.h"
 #include "dvb/DescComponent.h"
 #include "dvb/DescContent.h"
 #include "dvb/DescCountryAvailability.h"
@@ -130,6 +131,7 @@ inline void Read(TCBaseDesc* desc)
     if (auto* d = dynamic_cast<TCDescFrequencyList*>(desc))
         for (int i = -1; i <= d->NumOfEntries(); ++i)
             Take(d->CentreFrequency(i) != 0.0f);
+    ReadAv(desc, g_sink);
     if (auto* d = dynamic_cast<IDescLogicalChannel*>(desc))
         ReadLcn(*d);
     if (auto* d = dynamic_cast<TCDescLogicalChannelV2*>(desc)) {

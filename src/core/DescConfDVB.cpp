@@ -3,6 +3,8 @@
 #include <zum-platform/Binder.h>
 
 #include "DescExtension.h"
+#include "../av/DescAC3.h"
+#include "../av/DescMetadata.h"
 #include "../dvb/DescComponent.h"
 #include "../dvb/DescContent.h"
 #include "../dvb/DescCountryAvailability.h"
@@ -30,6 +32,7 @@ TCBaseDesc* TCDescConfDVB::NewDescriptor(int tag, const unsigned char* data, uns
 {
     switch (tag) {
     case 0x03: return new TCDescSSULocation();
+    case 0x25: return new TCDescMetadataPointer();
     case 0x40: return new TCDescNetworkName();
     case 0x41: return new TCDescServiceList();
     case 0x43: return new TCDescSatelliteDeliverySystem(0x43);
@@ -52,6 +55,8 @@ TCBaseDesc* TCDescConfDVB::NewDescriptor(int tag, const unsigned char* data, uns
     case 0x62: return new TCDescFrequencyList();
     case 0x64: return new TCDescDataBroadcast();
     case 0x66: return new TCDescDataBroadcastId();
+    case 0x6A: return new TCDescAC3();
+    case 0x7A: return new TCDescEnhancedAC3();
     case 0x7E: return new TCDescFTAContentManagement();
     case 0x7F: return TCDescExtension::ProcessExtensionDescriptor(data, pds);
     default: return t_ProcessPrivateDesc(tag, pds);

@@ -4,6 +4,11 @@
 
 #include "DescExtension.h"
 #include "../atsc/DescExtendedChannelName.h"
+#include "../av/DescAACAudio.h"
+#include "../av/DescAC3.h"
+#include "../av/DescAVCVideo.h"
+#include "../av/DescDTCP.h"
+#include "../av/DescMetadata.h"
 #include "../dvb/DescComponent.h"
 #include "../dvb/DescContent.h"
 #include "../dvb/DescLanguage.h"
@@ -20,8 +25,11 @@ TCBaseDesc* TCDescConfPSIBase::NewDescriptor(int tag, const unsigned char* /*dat
     switch (tag) {
     case 0x09: return new TCDescCA();
     case 0x0A: return new TCDescLanguage();
+    case 0x1C: return new TCDescMpeg4Audio();
+    case 0x24: return new TCDescContentLabeling();
     case 0x52: return new TCDescStreamIdentifier();
     case 0x66: return new TCDescDataBroadcastId();
+    case 0x88: return new TCDescDTCP();
     default: return new TCDescDefault(tag);
     }
 }
@@ -31,11 +39,17 @@ TCDescConfPsiDVB::TCDescConfPsiDVB(const ZUMHandle& handle) : m_handle(handle) {
 TCBaseDesc* TCDescConfPsiDVB::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
 {
     switch (tag) {
-    // Program tables carry no specifier into extensions: the 0xA3 row needs the SI factory.
+    case 0x05: return new TCDescDRARegistration();
+    case 0x26: return new TCDescMetadata();
+    case 0x28: return new TCDescAVCVideo();
     case 0x56: return new TCDescTeletext();
     case 0x59: return new TCDescSubtitling();
     case 0x5F: return new TCDescPrivateDataSpecifier();
     case 0x60: return new TCDescServiceMove();
+    case 0x6A: return new TCDescAC3();
+    case 0x7A: return new TCDescEnhancedAC3();
+    case 0x7C: return new TCDescAACAudio();
+    // Program tables carry no specifier into extensions: the 0xA3 row needs the SI factory.
     case 0x7F: return TCDescExtension::ProcessExtensionDescriptor(data, 0xFFFFFFFF);
     case 0x98:
     case 0xA0:
@@ -74,6 +88,7 @@ TCBaseDesc* TCDescConfPsiDVB::m_NewFSatPrivateDesc(int tag, unsigned int /*pds*/
 TCBaseDesc* TCDescConfPsiDVB::m_NewCHNPrivateDesc(int tag, unsigned int /*pds*/)
 {
     switch (tag) {
+    case 0xA0: return new TCDescDRAAudioStream();
     default: return nullptr;
     }
 }
@@ -99,7 +114,12 @@ TCBaseDesc* TCDescConfPsiISDB::NewDescriptor(int tag, const unsigned char* data,
 TCBaseDesc* TCDescConfPsiATSC::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
 {
     switch (tag) {
+    case 0x35: return new TCDescStereoScopicProgramInfo();
+    case 0x36: return new TCDescStereoScopicVideoInfo();
+    case 0x6A: return new TCDescAC3();
+    case 0x81: return new TCDescAC3Audio();
     case 0xA3: return new TCDescComponentName();
+    case 0xCC: return new TCDescATSCEnhancedAC3();
     default: return TCDescConfPSIBase::NewDescriptor(tag, data, pds);
     }
 }
@@ -107,6 +127,7 @@ TCBaseDesc* TCDescConfPsiATSC::NewDescriptor(int tag, const unsigned char* data,
 TCBaseDesc* TCDescConfPsiKR::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
 {
     switch (tag) {
+    case 0x38: return new TCDescStereoScopicSyncronization();
     default: return TCDescConfPsiATSC::NewDescriptor(tag, data, pds);
     }
 }

@@ -2,12 +2,21 @@
 
 #include "../atsc/DescExtendedChannelName.h"
 #include "../atsc/DescServiceLocation.h"
+#include "../av/DescAACAudio.h"
+#include "../av/DescAC3.h"
+#include "../av/DescAVCVideo.h"
+#include "../av/DescAudioFile.h"
 
 TCBaseDesc* TCDescConfPSIP::NewDescriptor(int tag, const unsigned char* /*data*/, unsigned int /*pds*/)
 {
     switch (tag) {
+    case 0x02: return new TCDescAudioFile();
+    case 0x1C: return new TCDescMpeg4Audio();
+    case 0x35: return new TCDescStereoScopicProgramInfo();
+    case 0x81: return new TCDescAC3Audio();
     case 0xA0: return new TCDescExtendedChannelName();
     case 0xA1: return new TCDescServiceLocation();
+    case 0xE1: return new TCDescResolutionClass();
     default: return new TCDescDefault(tag);
     }
 }

@@ -1,5 +1,7 @@
 #include "DescExtension.h"
 
+#include "../av/DescAACAudio.h"
+#include "../av/DescTTMLSubtitling.h"
 #include "../dvb/DescT2SystemDelivery.h"
 
 TCDescExtension::TCDescExtension() : TCBaseDesc(0x7F) {}
@@ -33,6 +35,8 @@ TCBaseDesc* TCDescExtension::ProcessExtensionDescriptor(const unsigned char* dat
     // Extensions without a class of their own stay plain TCDescExtension objects.
     switch (data[2]) {
     case 0x04: return new TCDescT2SystemDelivery();
+    case 0x06: return new TCDescSupplementaryAudio();
+    case 0x20: return new TCDescTTMLSubtitling();
     default: return new TCDescExtension();
     }
 }

@@ -21,7 +21,8 @@ TCDVBItemMux::TCDVBItemMux(unsigned short tableId, const ZUMHandle& handle) : m_
 
 int TCDVBItemMux::Parse(const unsigned char* data)
 {
-    return m_Parse(data, INT_MAX, INT_MAX);
+    TCDescriptor loop(m_handle);
+    return m_Parse(data, INT_MAX, INT_MAX, loop);
 }
 
 int TCDVBItemMux::Parse(const unsigned char* data, int remaining)
@@ -31,12 +32,18 @@ int TCDVBItemMux::Parse(const unsigned char* data, int remaining)
 
 int TCDVBItemMux::Parse(const unsigned char* data, int remaining, int reach)
 {
-    if (remaining < 1)
-        return 0;
-    return m_Parse(data, remaining, std::max(remaining, reach));
+    TCDescriptor loop(m_handle);
+    return Parse(data, remaining, reach, loop);
 }
 
-int TCDVBItemMux::m_Parse(const unsigned char* data, int remaining, int reach)
+int TCDVBItemMux::Parse(const unsigned char* data, int remaining, int reach, TCDescriptor& loop)
+{
+    if (remaining < 1)
+        return 0;
+    return m_Parse(data, remaining, std::max(remaining, reach), loop);
+}
+
+int TCDVBItemMux::m_Parse(const unsigned char* data, int remaining, int reach, TCDescriptor& loop)
 {
     DeleteAll();
     // Header bytes are read as they stand as far as the bytes reach; behind
@@ -48,7 +55,6 @@ int TCDVBItemMux::m_Parse(const unsigned char* data, int remaining, int reach)
     const int loopLength = static_cast<int>(ReadBE16(head + 4) & 0x0FFF);
     const int available = std::max(0, remaining - kMuxHeaderSize);
     // Each mux's loop starts without a specifier, as every loop does.
-    TCDescriptor loop(m_handle);
     loop.Parse(data + kMuxHeaderSize, std::min(loopLength, available), m_descriptors,
                static_cast<unsigned char>(m_tableId));
     return loopLength + kMuxHeaderSize;
@@ -155,7 +161,7 @@ void TCDVBMuxInstance::m_Parse(const unsigned char* body, int length, int sectio
     for (int position = first; position < end;) {
         muxes.push_back(std::make_unique<TCDVBItemMux>(tableId, m_handle));
         // The header of a short last entry reads on into the CRC_32.
-        position += muxes.back()->Parse(body + position, end - position, length - position);
+        position += muxes.back()->Parse(body + position, end - position, length - position, loop);
     }
     FlattenBySection(m_muxesBySection, m_muxes);
 }

@@ -13,6 +13,7 @@
 #include "../core/DescriptorHash.h"
 
 class IDescLogicalChannel;
+class TCDescriptor;
 
 // One transport stream of a NIT or BAT loop, with its descriptors; answers
 // which logical channel descriptor gives a service its number.
@@ -27,6 +28,9 @@ public:
     // As above; the header is read as far as `reach` (at least `remaining`)
     // bytes, such as a CRC_32 behind the loop.
     int Parse(const unsigned char* data, int remaining, int reach);
+    // As above, walking the loop with the section's walker, so that a
+    // section's loops share one factory.
+    int Parse(const unsigned char* data, int remaining, int reach, TCDescriptor& loop);
     void DeleteAll() { m_descriptors.DeleteAll(); }
 
     unsigned short TransportStreamId() const { return m_transportStreamId; }
@@ -38,7 +42,7 @@ public:
                                                  bool anyCountry) const;
 
 private:
-    int m_Parse(const unsigned char* data, int remaining, int reach);
+    int m_Parse(const unsigned char* data, int remaining, int reach, TCDescriptor& loop);
 
     ZUMHandle m_handle;
     unsigned short m_tableId;

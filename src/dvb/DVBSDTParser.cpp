@@ -26,6 +26,12 @@ int TCDVBSDTItemService::Parse(const unsigned char* data)
 
 int TCDVBSDTItemService::Parse(const unsigned char* data, int remaining)
 {
+    TCDescriptor loop(m_handle);
+    return Parse(data, remaining, loop);
+}
+
+int TCDVBSDTItemService::Parse(const unsigned char* data, int remaining, TCDescriptor& loop)
+{
     DeleteAll();
     m_serviceId = static_cast<unsigned short>(ReadBE16(data));
     m_eitScheduleFlag = (data[2] >> 1) & 0x01;
@@ -35,7 +41,6 @@ int TCDVBSDTItemService::Parse(const unsigned char* data, int remaining)
     const int loopLength = static_cast<int>(ReadBE16(data + 3) & 0x0FFF);
     // A loop that claims more than the section holds is read up to its end.
     const int available = std::max(0, remaining - kServiceHeaderSize);
-    TCDescriptor loop(m_handle);
     loop.Parse(data + kServiceHeaderSize, std::min(loopLength, available), m_descriptors, kSdtLoopTableId);
     return loopLength + kServiceHeaderSize;
 }
@@ -86,9 +91,10 @@ void TCDVBSDTInstance::t_Parse(const unsigned char* body, int length)
     if (limit >= 4) {
         services.reserve(services.size() + CountRecords(body + 3, loopEnd - 3, kServiceHeaderSize, 3));
         int position = 3;
+        TCDescriptor loop(m_handle);
         while (position < limit) {
             services.push_back(std::make_unique<TCDVBSDTItemService>(m_handle));
-            position += services.back()->Parse(body + position, loopEnd - position);
+            position += services.back()->Parse(body + position, loopEnd - position, loop);
         }
     }
     FlattenBySection(m_servicesBySection, m_services);

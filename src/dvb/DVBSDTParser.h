@@ -11,6 +11,8 @@
 #include "../core/DescriptorHash.h"
 #include "../core/SectionParser.h"
 
+class TCDescriptor;
+
 // Key of an SDT sub-table: original network id, then transport stream id.
 struct ZUM_EXPORT TTNetworkKey {
     int originalNetworkId = 0;
@@ -41,6 +43,9 @@ public:
     int Parse(const unsigned char* data);
     // As above, reading the descriptor loop no further than `remaining` bytes from `data`.
     int Parse(const unsigned char* data, int remaining);
+    // As above, walking the loop with the section's walker, so that a
+    // section's loops share one factory.
+    int Parse(const unsigned char* data, int remaining, TCDescriptor& loop);
     void DeleteAll() { m_descriptors.DeleteAll(); }
 
     unsigned short ServiceId() const { return m_serviceId; }

@@ -18,6 +18,12 @@ TCPMTElementary::TCPMTElementary(const ZUMHandle& handle) : m_handle(handle) {}
 
 int TCPMTElementary::Parse(const unsigned char* data, int remaining)
 {
+    TCDescriptor loop(m_handle);
+    return Parse(data, remaining, loop);
+}
+
+int TCPMTElementary::Parse(const unsigned char* data, int remaining, TCDescriptor& loop)
+{
     // An entry with fewer than five bytes in front of the CRC_32 takes its
     // fields from the bytes at hand; they all lie inside the section.
     m_esInfoLength = static_cast<int>(ReadBE16(data + 3) & 0x0FFF);
@@ -25,8 +31,6 @@ int TCPMTElementary::Parse(const unsigned char* data, int remaining)
         m_esInfoLength = remaining - 5;
     m_streamType = data[0];
     m_elementary_PID = static_cast<unsigned short>(ReadBE16(data + 1) & 0x1FFF);
-
-    TCDescriptor loop(m_handle);
     loop.Parse(data + 5, m_esInfoLength, m_descriptors, kPmtTableId);
     return m_esInfoLength + 5;
 }
@@ -101,7 +105,7 @@ bool TCPMTInstance::m_Parse(const unsigned char* data, int length)
     int remaining = length - m_programInfoLength - 6;
     while (remaining > 0) {
         m_elementaries.push_back(std::make_unique<TCPMTElementary>(m_handle));
-        const int n = m_elementaries.back()->Parse(p, remaining);
+        const int n = m_elementaries.back()->Parse(p, remaining, loop);
         p += n;
         remaining -= n;
     }

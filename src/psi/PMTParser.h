@@ -12,6 +12,8 @@
 #include "../core/DescriptorHash.h"
 #include "../core/SectionParser.h"
 
+class TCDescriptor;
+
 // One elementary stream of a program, with its ES_info descriptors.
 class ZUM_EXPORT TCPMTElementary : public TCDescriptorHashOwner {
 public:
@@ -22,6 +24,9 @@ public:
     // `remaining` counts the stream bytes left in front of the CRC_32; returns
     // the bytes this entry takes (ES_info_length + 5, cut to what is left).
     int Parse(const unsigned char* data, int remaining);
+    // As above, walking the loop with the section's walker, so that a
+    // section's loops share one factory.
+    int Parse(const unsigned char* data, int remaining, TCDescriptor& loop);
 
     unsigned char StreamType() const;
     unsigned short ElementaryPID() const;

@@ -66,11 +66,11 @@ TEST(DescConf, FallbacksByFactoryAndTag)
         {"PMT 0xD0 under another specifier", kPsiDVB, 0xD0, 0x28, 0, ECOUNTRY_NONE, kBinder, "null"},
         {"PMT 0xD0 under FSAT", kPsiDVB, 0xD0, 0x46534154, 0, ECOUNTRY_NONE, kBinder, "decoded"},
         {"PMT 0x98 in Turkey without its class", kPsiDVB, 0x98, 0, 0x011FFFFF, ECOUNTRY_TURKEY, kBinder, "null"},
-        {"PMT 0xA0 in China without its class", kPsiDVB, 0xA0, 0, 0, ECOUNTRY_CHINA, kBinder, "null"},
+        {"PMT 0xA0 in China is the DRA stream", kPsiDVB, 0xA0, 0, 0, ECOUNTRY_CHINA, kBinder, "decoded"},
         {"PMT private tag without binder", kPsiDVB, 0x98, 0, 0, ECOUNTRY_NONE, kNoBinder, "null"},
         {"ISDB PMT falls back to the DVB PMT", kPsiISDB, 0x7F, 0, 0, ECOUNTRY_NONE, kBinder, "extension"},
         {"ATSC PMT has no extension row", kPsiATSC, 0x7F, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
-        {"KR PMT", kPsiKR, 0x88, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
+        {"KR PMT", kPsiKR, 0x42, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
         {"PSIP", kPSIP, 0xA2, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
         {"AIT", kDS, 0x00, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
     };

@@ -65,7 +65,7 @@ TEST(InspectDescribers, FieldsForKnownClassesRawForTheRest)
         {zumtest::Desc(0x4A, {0, 1, 0, 2, 0, 3, 0x0D, 0x12, 0x34, 0x40}), "0x4A", "TCDescLinkage", "/linkageName",
          "event linkage"},
         {zumtest::Desc(0x7F, {0x04, 0x00, 0x12, 0x34}), "0x7F04", "TCDescT2SystemDelivery", "/t2SystemId", 0x1234},
-        {zumtest::Desc(0x7F, {0x20, 0xAA}), "0x7F20", "TCDescExtension", nullptr, "7f 02 20 aa"},
+        {zumtest::Desc(0x7F, {0x17, 0xAA}), "0x7F17", "TCDescExtension", nullptr, "7f 02 17 aa"},
         // All ones: the centre frequency is not given.
         {zumtest::Desc(0x5A, {0xFF, 0xFF, 0xFF, 0xFF, 0x1F, 0x92, 0x41, 0xFF, 0xFF, 0xFF, 0xFF}), "0x5A",
          "TCDescTerrestrialDeliverySystem", "/centreFrequencyHz", nullptr},

@@ -31,6 +31,7 @@
 #include "dvb/DescServiceMove.h"
 #include "dvb/DescShortEvent.h"
 #include "dvb/DescT2SystemDelivery.h"
+#include "inspect/AvView.h"
 #include "inspect/EwsView.h"
 #include "inspect/FreesatView.h"
 #include "isdb/DescEmergencyInformation.h"
@@ -565,6 +566,8 @@ Json DescribeDescriptor(const TCBaseDesc& desc, const TextDecoder& text)
         out["fields"] = describer->second(desc, text);
     else if (std::optional<Json> atsc = DescribeAtscDescriptor(desc))
         out["fields"] = *atsc;
+    else if (Json av = DescribeAvDescriptor(desc); !av.is_null())
+        out["fields"] = av;
     else if (!(freesat = DescribeFreesat(desc, text)).is_null())
         out["fields"] = freesat;
     else

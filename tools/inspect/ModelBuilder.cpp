@@ -13,6 +13,7 @@
 #include "dvb/DescService.h"
 #include "dvb/DescLocalTimeOffset.h"
 #include "inspect/AtscView.h"
+#include "inspect/AvView.h"
 #include "inspect/Describers.h"
 #include "inspect/EwsView.h"
 #include "inspect/Format.h"
@@ -118,6 +119,7 @@ Json Builder::Pmts() const
             streams.push_back({{"streamType", stream->StreamType()},
                                {"streamTypeName", StreamTypeName(stream->StreamType(), context.system)},
                                {"pid", stream->ElementaryPID()},
+                               {"summary", StreamSummary(stream->StreamType(), *stream)},
                                {"descriptors", DescribeLoop(*stream, text)}});
         }
         pmts.push_back({{"programNumber", program->ProgramNumber()},

@@ -115,7 +115,9 @@ public:
                         ", version " + Value(pmt["version"]) + ", PCR PID " + HexOr(pmt["pcrPid"], 4));
             Descriptors(1, pmt["descriptors"]);
             for (const Json& s : pmt["streams"]) {
-                Line(1, "stream type " + Field(s, "streamType") + "  PID " + HexOr(s["pid"], 4));
+                const std::string summary = s.value("summary", std::string());
+                Line(1, "stream type " + Field(s, "streamType") + "  PID " + HexOr(s["pid"], 4) +
+                            (summary.empty() ? "" : "  " + summary));
                 Descriptors(2, s["descriptors"]);
             }
         }
