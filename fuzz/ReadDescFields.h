@@ -22,6 +22,7 @@
 #include "dvb/DescService.h"
 #include "dvb/DescShortEvent.h"
 #include "operators/DescLogicalChannelV2.h"
+#include "ReadAppFields.h"
 #include "ReadFSatFields.h"
 
 namespace fuzzfields {
@@ -56,6 +57,7 @@ inline void ReadLcn(IDescLogicalChannel& d)
 
 inline void Read(TCBaseDesc* desc)
 {
+    ReadApp(desc);
     if (auto* d = dynamic_cast<TCDescNetworkName*>(desc))
         Text<unsigned char, unsigned short>(*d, &TCDescNetworkName::NetworkNameText);
     if (auto* d = dynamic_cast<TCDescBouquetName*>(desc))

@@ -3,6 +3,7 @@
 #include <zum-platform/Binder.h>
 
 #include "DescExtension.h"
+#include "../apps/DescApplicationSignalling.h"
 #include "../atsc/DescExtendedChannelName.h"
 #include "../av/DescAACAudio.h"
 #include "../av/DescAC3.h"
@@ -49,6 +50,7 @@ TCBaseDesc* TCDescConfPsiDVB::NewDescriptor(int tag, const unsigned char* data, 
     case 0x6A: return new TCDescAC3();
     case 0x7A: return new TCDescEnhancedAC3();
     case 0x7C: return new TCDescAACAudio();
+    case 0x6F: return new TCDescApplicationSignalling();
     // Program tables carry no specifier into extensions: the 0xA3 row needs the SI factory.
     case 0x7F: return TCDescExtension::ProcessExtensionDescriptor(data, 0xFFFFFFFF);
     case 0x98:

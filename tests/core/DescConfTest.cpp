@@ -71,8 +71,8 @@ TEST(DescConf, FallbacksByFactoryAndTag)
         {"ISDB PMT falls back to the DVB PMT", kPsiISDB, 0x7F, 0, 0, ECOUNTRY_NONE, kBinder, "extension"},
         {"ATSC PMT has no extension row", kPsiATSC, 0x7F, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
         {"KR PMT", kPsiKR, 0x42, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
+        {"AIT tag without a class", kDS, 0x03, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
         {"PSIP", kPSIP, 0xA2, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
-        {"AIT", kDS, 0x00, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);

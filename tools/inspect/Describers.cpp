@@ -13,6 +13,9 @@
 #include <unordered_map>
 #include <vector>
 
+#include "apps/DescApplication.h"
+#include "apps/DescApplicationSignalling.h"
+#include "apps/DescTransportProtocol.h"
 #include "core/BaseDesc.h"
 #include "core/DescriptorContainer.h"
 #include "dvb/DescCAIdentifier.h"
@@ -32,6 +35,7 @@
 #include "dvb/DescShortEvent.h"
 #include "dvb/DescT2SystemDelivery.h"
 #include "inspect/AvView.h"
+#include "inspect/AitView.h"
 #include "inspect/EwsView.h"
 #include "inspect/FreesatView.h"
 #include "isdb/DescEmergencyInformation.h"
@@ -524,6 +528,20 @@ DescriberTable MakeTable()
     Register<TCDescLogicalChannel>(t, LogicalChannel);
     Register<TCDescLogicalChannelV2>(t, LogicalChannelV2);
     Register<TCDescEmergencyInformation>(t, DescribeEmergencyInformation);
+    Register<TCDescApplication>(t, DescribeApplication);
+    Register<TCDescApplicationName>(t, DescribeApplicationName);
+    Register<TCDescTransportProtocol>(t, DescribeTransportProtocol);
+    Register<TCDescExternalApplicationAuthrisation>(t, DescribeExternalApplicationAuthorisation);
+    Register<TCDescApplicationIcons>(t, DescribeApplicationIcons);
+    Register<TCDescPrefetch>(t, DescribePrefetch);
+    Register<TCDescDIILocation>(t, DescribeDIILocation);
+    Register<TCDescApplicationStorageCapability>(t, DescribeApplicationStorageCapability);
+    Register<TCDescApplicationSimpleLocation>(t, DescribeApplicationSimpleLocation);
+    Register<TCDescApplicationUsage>(t, DescribeApplicationUsage);
+    Register<TCDescApplicationBoundary>(t, DescribeApplicationBoundary);
+    Register<TCDescUnboundApplication>(t, DescribeUnboundApplication);
+    Register<TCDescApplicationStorage>(t, DescribeApplicationStorage);
+    Register<TCDescApplicationSignalling>(t, DescribeApplicationSignalling);
     Register<TCDescLinkage>(t, LinkageFields);
     Register<TCDescDataBroadcast>(t, DataBroadcastFields);
     Register<TCDescDataBroadcastId>(t, DataBroadcastIdFields);

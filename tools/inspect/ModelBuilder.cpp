@@ -15,6 +15,7 @@
 #include "inspect/AtscView.h"
 #include "inspect/AvView.h"
 #include "inspect/Describers.h"
+#include "inspect/AitView.h"
 #include "inspect/EwsView.h"
 #include "inspect/Format.h"
 #include "inspect/Names.h"
@@ -416,6 +417,7 @@ Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContex
             {"lcn", b.Lcn()},
             {"ews", EwsModel(router, b.text)},
             {"sit", DescribeSit(router.Sit(), b.text)},
+            {"ait", AitModel(router, b.text)},
             {"atsc", DescribeAtsc(router.Atsc(), b.text)},
             {"freesatPostCodes", FreesatPostCodes(router.FSatPostCodes())},
             {"summary", b.Summary()}};

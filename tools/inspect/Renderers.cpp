@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <string>
 
+#include "inspect/AitView.h"
 #include "inspect/EwsView.h"
 #include "inspect/AtscView.h"
 #include "inspect/Format.h"
@@ -322,6 +323,7 @@ void RenderTree(const Json& model, std::ostream& out)
     RenderEwsTree(part("ews"), out);
     RenderFreesatPostCodesTree(part("freesatPostCodes"), out);
     tree.Sit(part("sit"));
+    RenderAitTree(part("ait"), out);
     RenderAtscTree(part("atsc"), out);
     tree.Summary(part("summary"));
 }

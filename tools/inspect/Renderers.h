@@ -40,6 +40,7 @@
 //                      "records": [{"key": [3 numbers], "channelNumber", "visible", "extra"}]},
 //   "ews":     null | the emergency warning table, schema in inspect/EwsView.h,
 //   "sit":     see SitView.h,
+//   "ait":     the AITs by PID, schema in inspect/AitView.h,
 //   "atsc":    null | the PSIP tables, see AtscView.h,
 //   "freesatPostCodes": see FreesatView.h,
 //   "summary": {"demux": {"packetSize", "packets", "syncLosses", "skippedBytes", "truncatedPackets",

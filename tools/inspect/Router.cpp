@@ -4,6 +4,7 @@
 
 #include <zum-platform/Binder.h>
 
+#include "apps/AITParser.h"
 #include "dvb/DVBBATParser.h"
 #include "dvb/DVBEITParser.h"
 #include "dvb/DVBLCNParser.h"
@@ -31,6 +32,8 @@ constexpr uint8_t kTidLcn = 0x85;
 constexpr uint8_t kTidEws = 0x80;
 constexpr int kStreamTypePrivateSections = 0x05;
 constexpr uint8_t kTidSit = 0xD5;
+constexpr uint8_t kTidAit = 0x74;
+constexpr int kTagApplicationSignalling = 0x6F;
 constexpr uint8_t kTidFSatPostCode = 0xD2;
 constexpr unsigned int kPdsFreesat = 0x46534154;
 
@@ -109,6 +112,8 @@ Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
         return Kind::Lcn;
     if (tableId == kTidSit && (any || pid == kPidSit))
         return Kind::Sit;
+    if (tableId == kTidAit && (any || m_aitPids.count(pid) > 0))
+        return Kind::Ait;
     // Only a Freesat receiver filters its postcode tables.
     IBinder* binder = IBinder::Instance();
     if (tableId == kTidFSatPostCode && binder && binder->GetPrivateDataSpecification(m_handle) == kPdsFreesat)
@@ -154,6 +159,7 @@ TCSectionParser* Router::m_Parser(Kind kind, uint8_t tableId)
     case Kind::Lcn: return Lazy(m_lcn, m_handle);
     case Kind::Ews: return Lazy(m_ews);
     case Kind::Sit: return Lazy(m_sit, static_cast<int>(tableId), m_handle);
+    case Kind::Ait: break; // by PID, see OnSection
     case Kind::Bat: return Lazy(m_bat, m_handle);
     case Kind::Cat: return Lazy(m_cat, m_handle);
     case Kind::FSatPostCode: return Lazy(m_fsatPostCodes, m_handle);
@@ -172,7 +178,9 @@ void Router::OnSection(uint16_t pid, const uint8_t* section, size_t size)
         counts.versions.insert((section[5] >> 1) & 0x1F);
 
     const Kind kind = m_KindOfSection(pid, section, size);
-    TCSectionParser* parser = m_Parser(kind, tableId);
+    // Each AIT PID carries the table of its own service: one parser per PID.
+    TCSectionParser* parser =
+        kind == Kind::Ait ? Lazy(m_aits[pid], static_cast<int>(tableId), m_handle) : m_Parser(kind, tableId);
     if (parser == nullptr)
         parser = m_atsc->Parser(pid, tableId);
     if (parser == nullptr) {
@@ -209,6 +217,9 @@ void Router::m_LearnPrivateSectionPids()
             const TCPMTElementary* stream = program->PMTElementary(static_cast<unsigned>(k));
             if (stream->StreamType() == kStreamTypePrivateSections)
                 m_privateSectionPids.insert(static_cast<uint16_t>(stream->ElementaryPID() & 0x1FFF));
+            if (stream->StreamType() == kStreamTypePrivateSections &&
+                stream->NumOfDescriptors(kTagApplicationSignalling) > 0)
+                m_aitPids.insert(static_cast<uint16_t>(stream->ElementaryPID() & 0x1FFF));
         }
     }
 }
@@ -237,6 +248,7 @@ std::string Router::ParserName(uint16_t pid, uint8_t tableId) const
     case Kind::Lcn: return "TCDVBLCNParser";
     case Kind::Ews: return "TCEWSParser";
     case Kind::Sit: return "TCSITParser";
+    case Kind::Ait: return "TCAITParser";
     case Kind::Bat: return "TCDVBBATParser";
     case Kind::Cat: return "TCDVBCATParser";
     case Kind::FSatPostCode: return "TCDVBFSatPostCodeParser";
@@ -284,6 +296,15 @@ std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
     case Kind::Lcn: return m_lcn && m_lcn->IsRecv();
     case Kind::Ews: return m_ews && m_ews->IsValidTRDW() && m_ews->IsValidTCDW() && m_ews->IsValidTMDW();
     case Kind::Sit: return m_sit && m_sit->IsRecv();
+    case Kind::Ait: {
+        const auto it = m_aits.find(pid);
+        if (it == m_aits.end())
+            return false;
+        std::list<const TCAitInstance*> instances;
+        for (int i = 0; i < it->second->NumOfAITInstance(); ++i)
+            instances.push_back(it->second->AITInstanceOfIndex(static_cast<unsigned>(i)));
+        return AllValid(instances, [](const TCAitInstance* p) { return p->IsValid(); });
+    }
     case Kind::Bat: {
         std::list<unsigned short> ids;
         if (m_bat)

@@ -35,6 +35,7 @@ class TCDVBTOTParser;
 class TCDVBLCNParser;
 class TCEWSParser;
 class TCSITParser;
+class TCAITParser;
 class TCDVBBATParser;
 class TCDVBCATParser;
 
@@ -100,12 +101,15 @@ public:
     const std::set<uint16_t>& EwsPids() const { return m_ewsPids; }
 
     const TCSITParser* Sit() const { return m_sit.get(); }
+    // One AIT parser per announced AIT PID (kNoPid for a file of sections).
+    const std::map<uint16_t, std::unique_ptr<TCAITParser>>& Aits() const { return m_aits; }
+
     // The PSIP tables on the base PID, with an ATSC country.
     const AtscTables& Atsc() const { return *m_atsc; }
     const TCDVBFSatPostCodeParser* FSatPostCodes() const { return m_fsatPostCodes.get(); }
 
 private:
-    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit, Bat, Cat, FSatPostCode };
+    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit, Bat, Cat, Ait, FSatPostCode };
 
     Kind m_KindOf(uint16_t pid, uint8_t tableId) const;
     // As above, deciding a shared table id of a file of sections by country and section shape.
@@ -138,6 +142,9 @@ private:
     std::set<uint16_t> m_privateSectionPids; // streams of type 0x05 in a PMT
     std::set<uint16_t> m_ewsPids;
     std::unique_ptr<TCSITParser> m_sit;
+    // Streams of type 0x05 whose PMT entry has an application signalling descriptor.
+    std::set<uint16_t> m_aitPids;
+    std::map<uint16_t, std::unique_ptr<TCAITParser>> m_aits;
     std::unique_ptr<AtscTables> m_atsc;
     std::unique_ptr<TCDVBFSatPostCodeParser> m_fsatPostCodes;
 
