@@ -29,6 +29,7 @@
 #include "ReadAppFields.h"
 #include "ReadOperatorFields.h"
 #include "operators/DescTKGSComponent.h"
+#include "ReadFSatFields.h"
 
 namespace fuzzfields {
 
@@ -212,6 +213,7 @@ inline void Read(TCBaseDesc* desc)
     }
     if (auto* d = dynamic_cast<TCDescTKGSComponent*>(desc))
         Take(d->Flag() + d->Found());
+    fsatfields::Read(desc);
 }
 
 } // namespace fuzzfields

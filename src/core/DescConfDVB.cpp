@@ -26,6 +26,10 @@
 #include "../operators/DescTelekomGrid.h"
 #include "../operators/DescTricolorRegionName.h"
 #include "../operators/DescUKDTTServiceAttribute.h"
+#include "../operators/DescFSatGuidance.h"
+#include "../operators/DescFSatLinkage.h"
+#include "../operators/DescFSatLogicalChannel.h"
+#include "../operators/DescFSatRegionName.h"
 #include "../operators/DescLogicalChannel.h"
 #include "../operators/DescLogicalChannelV2.h"
 #include "../operators/DescTKGSComponent.h"
@@ -63,6 +67,7 @@ TCBaseDesc* TCDescConfDVB::NewDescriptor(int tag, const unsigned char* data, uns
     case 0x66: return new TCDescDataBroadcastId();
     case 0x6A: return new TCDescAC3();
     case 0x7A: return new TCDescEnhancedAC3();
+    case 0x7E: return new TCDescFTAContentManagement();
     case 0x7F: return TCDescExtension::ProcessExtensionDescriptor(data, pds);
     default: return t_ProcessPrivateDesc(tag, pds);
     }
@@ -202,6 +207,7 @@ TCBaseDesc* TCDescConfDVB::m_NewDbookPrivateDesc(int tag, unsigned int pds)
     switch (tag) {
     case 0x86: return new TCDescUKDTTServiceAttribute();
     case 0x88: return new TCDescLogicalChannel(0x88, pds);
+    case 0x89: return new TCDescGuidance();
     default: return t_NewDefaultPrivateDesc(tag, pds);
     }
 }
@@ -266,7 +272,25 @@ TCBaseDesc* TCDescConfDVB::m_NewTKGSPrivateDesc(int tag, unsigned int pds)
     default: return t_NewDefaultPrivateDesc(tag, pds);
     }
 }
-TCBaseDesc* TCDescConfDVB::m_NewFSatPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewFSatPrivateDesc(int tag, unsigned int pds)
+{
+    switch (tag) {
+    case 0xD0: return new TCDescFSatTunnelledData();
+    case 0xD1: return new TCDescFSatAltTunnelledData();
+    case 0xD2: return new TCDescFSatLinkage();
+    case 0xD3: return new TCDescFSatLogicalChannel();
+    case 0xD4: return new TCDescFSatRegionName();
+    case 0xD5: return new TCDescFSatServiceGroup();
+    case 0xD6: return new TCDescFSatInteractiveStorage();
+    case 0xD7: return new TCDescFSatInfoLocation();
+    case 0xD8: return new TCDescFSatServiceGroupName();
+    case 0xD9: return new TCDescFSatShortServiceName();
+    case 0xDA: return new TCDescFSatGuidance();
+    case 0xDB: return new TCDescFSatInteractiveRestriction();
+    case 0xDC: return new TCDescFSatContentManagement();
+    default: return t_NewDefaultPrivateDesc(tag, pds);
+    }
+}
 TCBaseDesc* TCDescConfDVB::m_NewKDGPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
 TCBaseDesc* TCDescConfDVB::m_NewDishTVPrivateDesc(int tag, unsigned int pds)
 {

@@ -18,6 +18,7 @@
 #include "../dvb/DescServiceMove.h"
 #include "../isdb/DescEmergencyInformation.h"
 #include "../operators/DescTKGSComponent.h"
+#include "../operators/DescFSatLinkage.h"
 #include "PrivateTag.h"
 #include "../psi/DescCA.h"
 
@@ -81,6 +82,8 @@ TCBaseDesc* TCDescConfPsiDVB::t_ProcessPrivateDesc(int tag, unsigned int pds)
 TCBaseDesc* TCDescConfPsiDVB::m_NewFSatPrivateDesc(int tag, unsigned int /*pds*/)
 {
     switch (tag) {
+    case 0xD0: return new TCDescFSatTunnelledData();
+    case 0xD1: return new TCDescFSatAltTunnelledData();
     default: return nullptr;
     }
 }

@@ -64,7 +64,7 @@ TEST(DescConf, FallbacksByFactoryAndTag)
         {"PMT tag 0xC1 in a DVB country", kPsiDVB, 0xC1, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
         {"PMT extension", kPsiDVB, 0x7F, 0, 0, ECOUNTRY_NONE, kBinder, "extension"},
         {"PMT 0xD0 under another specifier", kPsiDVB, 0xD0, 0x28, 0, ECOUNTRY_NONE, kBinder, "null"},
-        {"PMT 0xD0 under FSAT without its class", kPsiDVB, 0xD0, 0x46534154, 0, ECOUNTRY_NONE, kBinder, "null"},
+        {"PMT 0xD0 under FSAT", kPsiDVB, 0xD0, 0x46534154, 0, ECOUNTRY_NONE, kBinder, "decoded"},
         {"PMT 0x98 in Turkey, TKGS component", kPsiDVB, 0x98, 0, 0x011FFFFF, ECOUNTRY_TURKEY, kBinder, "decoded"},
         {"PMT 0xA0 in China is the DRA stream", kPsiDVB, 0xA0, 0, 0, ECOUNTRY_CHINA, kBinder, "decoded"},
         {"PMT private tag without binder", kPsiDVB, 0x98, 0, 0, ECOUNTRY_NONE, kNoBinder, "null"},

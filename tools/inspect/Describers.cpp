@@ -52,6 +52,7 @@
 #include "av/DescAC4.h"
 #include "av/DescAPD.h"
 #include "inspect/TkgsView.h"
+#include "inspect/FreesatView.h"
 #include "isdb/DescEmergencyInformation.h"
 #include "operators/DescLogicalChannel.h"
 #include "inspect/LinkageView.h"
@@ -620,12 +621,15 @@ Json DescribeDescriptor(const TCBaseDesc& desc, const TextDecoder& text)
     const int tag = desc.Tag() >= 0 ? desc.Tag() : 0x7F;
     Json out = {{"tag", Hex(static_cast<unsigned>(tag), tag > 0xFF ? 4 : 2)}, {"class", ClassName(desc)}};
     const auto describer = Describers().find(std::type_index(typeid(desc)));
+    Json freesat;
     if (describer != Describers().end())
         out["fields"] = describer->second(desc, text);
     else if (std::optional<Json> atsc = DescribeAtscDescriptor(desc))
         out["fields"] = *atsc;
     else if (Json av = DescribeAvDescriptor(desc); !av.is_null())
         out["fields"] = av;
+    else if (!(freesat = DescribeFreesat(desc, text)).is_null())
+        out["fields"] = freesat;
     else
         out["raw"] = RawHex(desc);
     return out;

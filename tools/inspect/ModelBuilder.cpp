@@ -23,6 +23,7 @@
 #include "inspect/Router.h"
 #include "inspect/SitView.h"
 #include "inspect/OperatorsView.h"
+#include "inspect/FreesatView.h"
 #include "inspect/TableIds.h"
 #include "inspect/TkgsView.h"
 #include "inspect/TsDemux.h"
@@ -151,6 +152,9 @@ Json Builder::TransportStream(const TCDVBItemMux& mux) const
                                 {"serviceTypeName", ServiceTypeName(list->ServiceType(s), context.system)},
                                 {"channelNumber", number != kNoChannelNumber ? Json(number) : Json(nullptr)},
                                 {"channelNumberTag", from ? HexId(from->Tag()) : Json(nullptr)}});
+            const Json byRegion = FreesatNumbersByRegion(lcn, serviceId);
+            if (!byRegion.is_null())
+                services.back()["channelNumbersByRegion"] = byRegion;
         }
     }
     return {{"transportStreamId", mux.TransportStreamId()},
@@ -421,6 +425,7 @@ Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContex
             {"sgt", DescribeSgt(router.Sgt(), b.text)},
             {"tkgs", TkgsModel(router, b.text)},
             {"atsc", DescribeAtsc(router.Atsc(), b.text)},
+            {"freesatPostCodes", FreesatPostCodes(router.FSatPostCodes())},
             {"summary", b.Summary()}};
 }
 

@@ -621,6 +621,9 @@ std::string TableIdName(unsigned int tableId, BroadcastSystem system, unsigned i
         // A Turkish operator's channel system.
         if (system == BroadcastSystem::Dvb && tableId == 0xA7)
             return "TKGS";
+        // Freesat's postcode tree and region keys.
+        if (system == BroadcastSystem::Dvb && tableId == 0xD2)
+            return "Freesat postcodes";
     }
     if (tableId >= 0x08 && tableId <= 0x3F)
         return "reserved";
@@ -757,6 +760,17 @@ std::string LinkageTypeName(unsigned int linkageType)
     if (linkageType >= 0x80 && linkageType <= 0xFE)
         return "user defined";
     return Lookup(kLinkageTypes, linkageType, "reserved for future use");
+}
+
+std::string ControlRemoteAccessName(unsigned int code)
+{
+    switch (code) {
+    case 0: return "redistribution over the internet enabled";
+    case 1: return "redistribution over the internet enabled within a managed domain";
+    case 2: return "redistribution over the internet enabled within a managed domain after a certain short period";
+    case 3: return "redistribution over the internet not allowed";
+    default: return "reserved";
+    }
 }
 
 std::string CaSystemName(unsigned int caSystemId)

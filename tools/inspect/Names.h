@@ -43,6 +43,8 @@ std::string ParentalRatingName(unsigned int rating);
 std::string TeletextTypeName(unsigned int type);
 std::string AudioTypeName(unsigned int audioType);
 std::string LinkageTypeName(unsigned int linkageType);
+// control_remote_access_over_internet of the FTA content management descriptor.
+std::string ControlRemoteAccessName(unsigned int code);
 // CA_system_id by the ranges of ETSI TS 101 162.
 std::string CaSystemName(unsigned int caSystemId);
 

@@ -10,6 +10,7 @@
 #include "inspect/AtscView.h"
 #include "inspect/Format.h"
 #include "inspect/OperatorsView.h"
+#include "inspect/FreesatView.h"
 #include "inspect/Text.h"
 #include "inspect/TkgsView.h"
 
@@ -135,6 +136,16 @@ public:
         }
     }
 
+    // Freesat's numbers of a service, region by region: ", region 1: 101, region 2: 952".
+    static std::string RegionNumbers(const Json& service)
+    {
+        std::string out;
+        if (service.contains("channelNumbersByRegion"))
+            for (const Json& n : service["channelNumbersByRegion"])
+                out += ", region " + Value(n["region"]) + ": " + Value(n["channelNumber"]);
+        return out;
+    }
+
     void TransportStreams(int depth, const Json& streams)
     {
         for (const Json& ts : streams) {
@@ -145,7 +156,8 @@ public:
                 const Json& tag = s["channelNumberTag"];
                 Line(depth + 1, "service " + HexOr(s["serviceId"], 4) + "  type " + Field(s, "serviceType") +
                                     "  channel " + Value(s["channelNumber"]) +
-                                    (tag.is_null() ? "" : " (from " + tag.get<std::string>() + ")"));
+                                    (tag.is_null() ? "" : " (from " + tag.get<std::string>() + ")") +
+                                    RegionNumbers(s));
             }
         }
     }
@@ -313,6 +325,7 @@ void RenderTree(const Json& model, std::ostream& out)
     tree.Lcn(part("lcn"));
     RenderEwsTree(part("ews"), out);
     RenderIsdbTree(part("isdb"), out);
+    RenderFreesatPostCodesTree(part("freesatPostCodes"), out);
     tree.Sit(part("sit"));
     RenderAitTree(part("ait"), out);
     RenderSgtTree(part("sgt"), out);

@@ -43,6 +43,7 @@
 //   "ait":     the AITs by PID, schema in inspect/AitView.h,
 //   "tkgs":    the TKGS channel systems, schema in inspect/TkgsView.h,
 //   "atsc":    null | the PSIP tables, see AtscView.h,
+//   "freesatPostCodes": see FreesatView.h,
 //   "summary": {"demux": {"packetSize", "packets", "syncLosses", "skippedBytes", "truncatedPackets",
 //                         "continuityErrors", "transportErrors", "duplicates", "sections", "crcErrors",
 //                         "droppedSections", "unfinishedSections"},

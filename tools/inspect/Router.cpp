@@ -21,6 +21,7 @@
 #include "operators/DescTKGSComponent.h"
 #include "program/SITParser.h"
 #include "psi/DVBCATParser.h"
+#include "dvb/DVBFSatPostCodeParser.h"
 #include "psi/PATParser.h"
 #include "psi/PMTParser.h"
 
@@ -39,6 +40,8 @@ constexpr int kTagApplicationSignalling = 0x6F;
 constexpr uint8_t kTidSgt = 0x91;
 constexpr uint8_t kTidTkgs = 0xA7;
 constexpr int kTagTkgsComponent = 0x98;
+constexpr uint8_t kTidFSatPostCode = 0xD2;
+constexpr unsigned int kPdsFreesat = 0x46534154;
 
 bool IsEit(uint8_t tableId)
 {
@@ -127,6 +130,10 @@ Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
     // TKGS comes on the stream whose PMT entry carries the TKGS component.
     if (tableId == kTidTkgs && (any || m_allPids || m_tkgsPids.count(pid) > 0))
         return Kind::Tkgs;
+    // Only a Freesat receiver filters its postcode tables.
+    IBinder* binder = IBinder::Instance();
+    if (tableId == kTidFSatPostCode && binder && binder->GetPrivateDataSpecification(m_handle) == kPdsFreesat)
+        return Kind::FSatPostCode;
     return Kind::None;
 }
 
@@ -175,6 +182,7 @@ TCSectionParser* Router::m_Parser(Kind kind, uint8_t tableId)
     case Kind::Bat: return Lazy(m_bat, m_handle);
     case Kind::Cat: return Lazy(m_cat, m_handle);
     case Kind::Sgt: return Lazy(m_sgt, m_handle);
+    case Kind::FSatPostCode: return Lazy(m_fsatPostCodes, m_handle);
     case Kind::None: break;
     }
     return nullptr;
@@ -287,6 +295,7 @@ std::string Router::ParserName(uint16_t pid, uint8_t tableId) const
     case Kind::Bat: return "TCDVBBATParser";
     case Kind::Cat: return "TCDVBCATParser";
     case Kind::Sgt: return "TCDVBSGTParser";
+    case Kind::FSatPostCode: return "TCDVBFSatPostCodeParser";
     case Kind::None: break;
     }
     const std::string atsc = m_atsc->ParserName(pid, tableId);
@@ -353,6 +362,7 @@ std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
     }
     case Kind::Cat: return m_cat && m_cat->IsValid();
     case Kind::Sgt: return m_sgt && m_sgt->AllSubtablesReceived();
+    case Kind::FSatPostCode: return m_fsatPostCodes && m_fsatPostCodes->IsValid();
     case Kind::None: break;
     }
     if (const std::optional<bool> atsc = m_atsc->Complete(pid, tableId))

@@ -45,6 +45,7 @@ class TCDVBCATParser;
 namespace zuminspect {
 class AtscTables;
 }
+class TCDVBFSatPostCodeParser;
 
 namespace zuminspect {
 
@@ -113,9 +114,10 @@ public:
     const AtscTables& Atsc() const { return *m_atsc; }
     // The ISDB tables of an ISDB receiver (BIT, NBIT, LDT, PCAT, SDTT, CDT, ECM, EMM).
     const IsdbTables& Isdb() const { return *m_isdb; }
+    const TCDVBFSatPostCodeParser* FSatPostCodes() const { return m_fsatPostCodes.get(); }
 
 private:
-    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit, Bat, Cat, Ait, Sgt, Tkgs };
+    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit, Bat, Cat, Ait, Sgt, Tkgs, FSatPostCode };
 
     Kind m_KindOf(uint16_t pid, uint8_t tableId) const;
     // As above, deciding a shared table id of a file of sections by country and section shape.
@@ -158,6 +160,7 @@ private:
     uint16_t m_sectionPid = 0; // the PID of the section in hand
     std::unique_ptr<AtscTables> m_atsc;
     std::unique_ptr<IsdbTables> m_isdb;
+    std::unique_ptr<TCDVBFSatPostCodeParser> m_fsatPostCodes;
 
     // Without PIDs, the kind that sections of a shared table id went to.
     std::map<uint8_t, Kind> m_sharedKinds;

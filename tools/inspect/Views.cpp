@@ -25,6 +25,7 @@ constexpr unsigned int kTagCA = 0x09;
 // Top-level entries whose table the filter knows without a "tableId" of their own.
 const std::map<std::string, unsigned int> kKnownTables = {
     {"pat", 0x00}, {"pmts", 0x02}, {"tdt", 0x70}, {"tot", 0x73}, {"lcn", 0x85}, {"ews", 0x80}, {"sit", 0xD5},
+    {"freesatPostCodes", 0xD2},
 };
 
 BroadcastSystem SystemOfModel(const Json& model)
