@@ -26,7 +26,7 @@ void TCDescriptorHash::Add(TCBaseDesc* desc)
         return;
     std::unique_ptr<TCBaseDesc> owned(desc);
     // Most loops hold a handful of descriptors: one block instead of growing 1, 2, 4.
-    if (m_byArrival.empty())
+    if (m_byArrival.capacity() == 0)
         m_byArrival.reserve(kFirstCapacity);
     const int tag = owned->Tag();
     m_byArrival.push_back(TTEntry{std::move(owned), tag});
@@ -38,6 +38,11 @@ const unsigned char* TCDescriptorHash::m_KeepBytes(const unsigned char* data, in
     std::memcpy(block, &m_pBlocks, sizeof(unsigned char*));
     std::memcpy(block + sizeof(unsigned char*), data, static_cast<size_t>(length));
     m_pBlocks = block;
+    // The loop's descriptors will arrive next: room for all of them in one block.
+    size_t count = 0;
+    for (int at = 0; at + 2 <= length; at += data[at + 1] + 2)
+        ++count;
+    m_byArrival.reserve(m_byArrival.size() + count);
     return block + sizeof(unsigned char*);
 }
 
