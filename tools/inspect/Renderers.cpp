@@ -7,6 +7,7 @@
 #include "inspect/AitView.h"
 #include "inspect/EwsView.h"
 #include "inspect/IsdbView.h"
+#include "inspect/OperatorTablesView.h"
 #include "inspect/AtscView.h"
 #include "inspect/Format.h"
 #include "inspect/OperatorsView.h"
@@ -331,6 +332,8 @@ void RenderTree(const Json& model, std::ostream& out)
     RenderSgtTree(part("sgt"), out);
     RenderTkgsTree(part("tkgs"), out);
     RenderAtscTree(part("atsc"), out);
+    RenderFastScanTree(part("fastScan"), out);
+    RenderUntTree(part("unt"), out);
     tree.Summary(part("summary"));
 }
 
