@@ -277,6 +277,7 @@ void RegisterGStreamer(Family family)
     Initialize();
     switch (family) {
     case Family::Svct:
+    case Family::Aeit:
     case Family::Sgt:
     case Family::Tkgs: break; // not decoded by this library
     case Family::EitScheduleCompressed: break; // table id 0x80 is not an EIT to GStreamer

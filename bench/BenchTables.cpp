@@ -368,6 +368,33 @@ Bytes Svct(unsigned version)
     return zumtest::OobSection(0xC4, w.Data());
 }
 
+// ---- AEIT: a cable guide slot, 2 sections of 4 sources with 6 events each ---
+
+std::vector<Bytes> Aeit(unsigned version)
+{
+    static const char* const kTitles[] = {"Evening News", "Weather", "Movie: The Long Road", "Late Show",
+                                          "Documentary", "Sports Tonight"};
+    std::vector<Bytes> sections;
+    for (unsigned section = 0; section < 2; ++section) {
+        SectionBuilder s(zumtest::LongHeader(0xD6, 0x0100, version, section, 1));
+        s.U8(kAeitSources);
+        for (unsigned src = 0; src < kAeitSources; ++src) {
+            s.U16(0x1000 + section * kAeitSources + src).U8(kAeitEventsPerSource);
+            for (unsigned e = 0; e < kAeitEventsPerSource; ++e) {
+                const std::string title = kTitles[e];
+                const Bytes mss = Concat({{0x01}, Text("eng"), {0x01, 0x00, 0x00, static_cast<uint8_t>(title.size())},
+                                          Text(title)});
+                s.U16(0xC000 | (e + 1)).U32(1'300'000'000 + e * 1800).U24(0xC00000 | (1u << 20) | 1800);
+                s.U8(static_cast<unsigned>(mss.size())).Raw(mss);
+                // Caption service: one line 21 service in English.
+                s.Begin16().Descriptor(0x86, Concat({{0xC1}, Text("eng"), {0x3F, 0xFF, 0xFF}})).End();
+            }
+        }
+        sections.push_back(s.Build());
+    }
+    return sections;
+}
+
 // ---- SGT: an Astra service list of 60 services over two sections ------------
 
 std::vector<Bytes> Sgt(unsigned version)
@@ -460,6 +487,7 @@ Table Make(Family family)
         case Family::Mgt: t.pid = kPidPsip; t.tableId = 0xC7; t.versions[v] = {Mgt(version)}; break;
         case Family::Tvct: t.pid = kPidPsip; t.tableId = 0xC8; t.versions[v] = {Tvct(version)}; break;
         case Family::Svct: t.pid = kPidOob; t.tableId = 0xC4; t.versions[v] = {Svct(version)}; break;
+        case Family::Aeit: t.pid = kPidOob; t.tableId = 0xD6; t.versions[v] = Aeit(version); break;
         case Family::Sgt: t.pid = kPidSgt; t.tableId = 0x91; t.versions[v] = Sgt(version); break;
         case Family::Tkgs: t.pid = kPidTkgs; t.tableId = 0xA7; t.versions[v] = Tkgs(version); break;
         }
@@ -484,7 +512,7 @@ const std::vector<Family>& AllFamilies()
                                             Family::EitPf,       Family::EitSchedule,
                                             Family::EitScheduleCompressed, Family::DescriptorLoop,
                                             Family::Mgt,         Family::Tvct,
-                                            Family::Svct,        Family::Sgt,         Family::Tkgs};
+                                            Family::Svct,        Family::Aeit,        Family::Sgt,         Family::Tkgs};
     return all;
 }
 
@@ -503,6 +531,7 @@ const char* FamilyName(Family family)
     case Family::Mgt: return "MGT";
     case Family::Tvct: return "TVCT";
     case Family::Svct: return "SVCT";
+    case Family::Aeit: return "AEIT";
     case Family::Sgt: return "SGT";
     case Family::Tkgs: return "TKGS";
     }
@@ -524,6 +553,7 @@ int DecodedByPeers(Family family)
     case Family::Mgt: return kMgtTables;
     case Family::Tvct: return kTvctChannels;
     case Family::Svct:
+    case Family::Aeit:
     case Family::Sgt:
     case Family::Tkgs: return -1;
     }

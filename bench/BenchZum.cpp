@@ -8,6 +8,7 @@
 
 #include <zum-platform/PlatformConfig.h>
 
+#include <zum-parser/atsc/AEITParser.h>
 #include <zum-parser/atsc/MGTParser.h>
 #include <zum-parser/atsc/SVCTParser.h>
 #include <zum-parser/atsc/SVCTParserVCM.h>
@@ -294,6 +295,24 @@ void Svct(benchmark::State& state)
     RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(pass(n)); });
 }
 
+void Aeit(benchmark::State& state)
+{
+    const AtscCountry country;
+    const Table& table = TableOf(Family::Aeit);
+    TCAEITParser parser(kHandle);
+    parser.Initialize();
+    const auto events = [&] {
+        const TCAEITParserTag* tag = parser.AEITParserTag(0);
+        const TCAEITSourceMap* sources = tag ? tag->AEITParserSourceList(1) : nullptr;
+        return sources && !sources->empty() ? sources->begin()->second->SizeOfAEITParserEvent() : 0;
+    };
+    if (!Prime(parser, table) || events() != kAeitEventsPerSource)
+        return state.SkipWithError("AEIT not decoded");
+    // Per pass: a version change, 48 events of 8 sources, each keeping its
+    // title and descriptor loop.
+    RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
+}
+
 void Sgt(benchmark::State& state)
 {
     const BinderAs astra([](zum_platform::BinderSettings& b) { b.privateDataSpecifier = 1; });
@@ -344,6 +363,7 @@ void RegisterZum(Family family)
     case Family::Mgt: Register(family, kZum, Mgt); break;
     case Family::Tvct: Register(family, kZum, Tvct); break;
     case Family::Svct: Register(family, kZum, Svct); break;
+    case Family::Aeit: Register(family, kZum, Aeit); break;
     case Family::Sgt: Register(family, kZum, Sgt); break;
     case Family::Tkgs: Register(family, kZum, Tkgs); break;
     }
