@@ -336,9 +336,8 @@ TCDescConfBase* TCDescriptorDVB::t_GetDescConf(unsigned char tableId)
 
 TCDescConfBase* TCDescriptorDVB::t_MakeDescConf(unsigned char tableId, TTDescConfSlot& slot)
 {
-    if (!t_IsExactly(typeid(TCDescriptorDVB)))
-        return TCDescriptorBase::t_MakeDescConf(tableId, slot);
-    return DVBConf(tableId, m_handle, TTConfInSlot{slot});
+    return t_IsExactly(typeid(TCDescriptorDVB)) ? DVBConf(tableId, m_handle, TTConfInSlot{slot})
+                                                  : TCDescriptorBase::t_MakeDescConf(tableId, slot);
 }
 
 // ---------------------------------------------------------------- ISDB, JPN
@@ -350,9 +349,8 @@ TCDescConfBase* TCDescriptorISDB::t_GetDescConf(unsigned char tableId)
 
 TCDescConfBase* TCDescriptorISDB::t_MakeDescConf(unsigned char tableId, TTDescConfSlot& slot)
 {
-    if (!t_IsExactly(typeid(TCDescriptorISDB)))
-        return TCDescriptorBase::t_MakeDescConf(tableId, slot);
-    return ISDBConf(tableId, m_handle, TTConfInSlot{slot});
+    return t_IsExactly(typeid(TCDescriptorISDB)) ? ISDBConf(tableId, m_handle, TTConfInSlot{slot})
+                                                  : TCDescriptorBase::t_MakeDescConf(tableId, slot);
 }
 
 TCDescConfBase* TCDescriptorJPN::t_GetDescConf(unsigned char tableId)
@@ -362,9 +360,8 @@ TCDescConfBase* TCDescriptorJPN::t_GetDescConf(unsigned char tableId)
 
 TCDescConfBase* TCDescriptorJPN::t_MakeDescConf(unsigned char tableId, TTDescConfSlot& slot)
 {
-    if (!t_IsExactly(typeid(TCDescriptorJPN)))
-        return TCDescriptorBase::t_MakeDescConf(tableId, slot);
-    return JPNConf(tableId, m_handle, TTConfInSlot{slot});
+    return t_IsExactly(typeid(TCDescriptorJPN)) ? JPNConf(tableId, m_handle, TTConfInSlot{slot})
+                                                  : TCDescriptorBase::t_MakeDescConf(tableId, slot);
 }
 
 // ---------------------------------------------------------------- ATSC, KR
@@ -376,9 +373,8 @@ TCDescConfBase* TCDescriptorATSC::t_GetDescConf(unsigned char tableId)
 
 TCDescConfBase* TCDescriptorATSC::t_MakeDescConf(unsigned char tableId, TTDescConfSlot& slot)
 {
-    if (!t_IsExactly(typeid(TCDescriptorATSC)))
-        return TCDescriptorBase::t_MakeDescConf(tableId, slot);
-    return ATSCConf(tableId, TTConfInSlot{slot});
+    return t_IsExactly(typeid(TCDescriptorATSC)) ? ATSCConf(tableId, TTConfInSlot{slot})
+                                                  : TCDescriptorBase::t_MakeDescConf(tableId, slot);
 }
 
 TCDescConfBase* TCDescriptorKR::t_GetDescConf(unsigned char tableId)
@@ -388,9 +384,8 @@ TCDescConfBase* TCDescriptorKR::t_GetDescConf(unsigned char tableId)
 
 TCDescConfBase* TCDescriptorKR::t_MakeDescConf(unsigned char tableId, TTDescConfSlot& slot)
 {
-    if (!t_IsExactly(typeid(TCDescriptorKR)))
-        return TCDescriptorBase::t_MakeDescConf(tableId, slot);
-    return KRConf(tableId, TTConfInSlot{slot});
+    return t_IsExactly(typeid(TCDescriptorKR)) ? KRConf(tableId, TTConfInSlot{slot})
+                                                  : TCDescriptorBase::t_MakeDescConf(tableId, slot);
 }
 
 // ---------------------------------------------------------------- country switch
