@@ -16,6 +16,7 @@
 #include "dvb/UNTParser.h"
 #include "inspect/Describers.h"
 #include "inspect/Format.h"
+#include "inspect/LazyParser.h"
 #include "inspect/Renderers.h"
 #include "operators/DescADBLCNv2Activate.h"
 #include "operators/DescChannelOrder.h"
@@ -50,16 +51,6 @@ auto Find(const Map& map, uint16_t pid) -> decltype(map.begin()->second.get())
 {
     const auto it = map.find(pid);
     return it == map.end() ? nullptr : it->second.get();
-}
-
-template <class Parser, class... Args>
-Parser* Lazy(std::unique_ptr<Parser>& slot, const Args&... args)
-{
-    if (!slot) {
-        slot = std::make_unique<Parser>(args...);
-        slot->Initialize();
-    }
-    return slot.get();
 }
 
 Json Pid(uint16_t pid)

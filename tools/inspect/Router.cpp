@@ -14,6 +14,7 @@
 #include "dvb/DVBTDTParser.h"
 #include "dvb/DVBTOTParser.h"
 #include "dvb/DVBTKGSParser.h"
+#include "inspect/LazyParser.h"
 #include "inspect/TableIds.h"
 #include "inspect/AtscView.h"
 #include "inspect/TsDemux.h"
@@ -46,16 +47,6 @@ constexpr unsigned int kPdsFreesat = 0x46534154;
 bool IsEit(uint8_t tableId)
 {
     return (tableId >= 0x4E && tableId <= 0x6F) || (tableId >= 0x80 && tableId <= 0x9F);
-}
-
-template <class Parser, class... Args>
-Parser* Lazy(std::unique_ptr<Parser>& slot, const Args&... args)
-{
-    if (!slot) {
-        slot = std::make_unique<Parser>(args...);
-        slot->Initialize();
-    }
-    return slot.get();
 }
 
 template <class Range, class Valid>
