@@ -19,6 +19,12 @@ TCDVBFSTItemService::TCDVBFSTItemService(const ZUMHandle& handle) : m_handle(han
 
 int TCDVBFSTItemService::Parse(const unsigned char* data, int remaining)
 {
+    TCDescriptor loop(m_handle);
+    return Parse(data, remaining, loop);
+}
+
+int TCDVBFSTItemService::Parse(const unsigned char* data, int remaining, TCDescriptor& loop)
+{
     DeleteAll();
     TCByteReader in(data, remaining);
     m_originalNetworkId = static_cast<unsigned short>(in.U16());
@@ -31,7 +37,6 @@ int TCDVBFSTItemService::Parse(const unsigned char* data, int remaining)
     m_pcrPid = static_cast<unsigned short>(in.U16());
     m_descriptorsLength = static_cast<unsigned short>(in.U16() & 0x0FFF);
     // A loop that claims more than the section holds is read to its end.
-    TCDescriptor loop(m_handle);
     loop.Parse(in.Here(), std::min<int>(m_descriptorsLength, in.Left()), m_descriptors, kTableIdFSTLoops);
     return kRecordHeadSize + m_descriptorsLength;
 }
@@ -62,10 +67,15 @@ bool TCDVBFSTInstance::Parse(const unsigned char* body, int length, unsigned sho
     if (result != TABLE_FIRST && result != TABLE_ADD && result != TABLE_CHANGED)
         return false;
     const int end = length - kCrcSize;
+    if (length < 5)
+        return IsValid();
+    // One walker, and so one factory, serves all records of the section.
+    TCDescriptor loop(m_handle);
+    m_services.reserve(m_services.size() + static_cast<size_t>(CountRecords(body, end, kRecordHeadSize, 16)));
     // A record whose fixed fields do not fit before the CRC_32 is refused.
-    for (int offset = 0; length >= 5 && offset + kRecordHeadSize <= end;) {
+    for (int offset = 0; offset + kRecordHeadSize <= end;) {
         m_services.push_back(std::make_unique<TCDVBFSTItemService>(m_handle));
-        offset += m_services.back()->Parse(body + offset, end - offset);
+        offset += m_services.back()->Parse(body + offset, end - offset, loop);
     }
     return IsValid();
 }

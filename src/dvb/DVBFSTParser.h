@@ -14,6 +14,8 @@
 
 // One service record of a fast-scan service table: the DVB triplet, the
 // default PIDs as sent (reserved bits included) and the service's descriptors.
+class TCDescriptor;
+
 class ZUM_EXPORT TCDVBFSTItemService : public TCDescriptorHashOwner {
 public:
     explicit TCDVBFSTItemService(const ZUMHandle& handle);
@@ -21,6 +23,8 @@ public:
     // Reads the record at `data`, no further than `remaining` bytes; returns
     // 18 plus its descriptors length.
     int Parse(const unsigned char* data, int remaining);
+    // As above, walking the loop with the section's walker.
+    int Parse(const unsigned char* data, int remaining, TCDescriptor& loop);
     void DeleteAll() { m_descriptors.DeleteAll(); }
 
     unsigned short OriginalNetworkId() const { return m_originalNetworkId; }
