@@ -18,6 +18,7 @@
 #include "inspect/Format.h"
 #include "inspect/LazyParser.h"
 #include "inspect/Renderers.h"
+#include "inspect/TableIds.h"
 #include "operators/DescADBLCNv2Activate.h"
 #include "operators/DescChannelOrder.h"
 #include "operators/DescDigiturkLogicalChannel.h"
@@ -192,6 +193,10 @@ bool OperatorTables::Wants(uint16_t pid) const
 
 OperatorTables::Kind OperatorTables::m_KindOf(uint16_t pid, uint8_t tableId, bool allPids) const
 {
+    // Only a DVB receiver filters these tables.
+    IBinder* binder = IBinder::Instance();
+    if (binder && SystemOf(binder->GetCountryCode(m_handle), binder->GetOperator(m_handle)) != BroadcastSystem::Dvb)
+        return Kind::None;
     // A file of sections has no PIDs: the table id alone decides.
     const bool any = pid == kNoPidHere || allPids;
     if ((tableId == kTidFnt || tableId == kTidFst) && (any || m_fastScanPids.count(pid) > 0))
