@@ -13,6 +13,14 @@ const int kOtauEntrySize = 5;
 const int kOtauServiceIdSize = 2;
 const int kOtauOrderSize = 3;
 
+// The 16-bit field at `offset` of the record at `index`, shifted right by
+// `shift`; 0 when there is no such record.
+unsigned short Field16(const unsigned char* payload, int count, int size, int index, int offset, int shift = 0)
+{
+    const unsigned char* raw = RawRecordAt(payload, count, size, index);
+    return raw ? static_cast<unsigned short>(ReadBE16(raw + offset) >> shift) : 0;
+}
+
 } // namespace
 
 // ---------------------------------------------------------------- Polsat channel list info
@@ -118,14 +126,12 @@ bool TCDescSogecablePrivateChannelList::GetChannelNumber(unsigned short serviceI
 
 unsigned short TCDescSogecablePrivateChannelList::ServiceId(int index) const
 {
-    const unsigned char* raw = RawRecordAt(t_Payload(), m_count, kSogecableEntrySize, index);
-    return raw ? static_cast<unsigned short>(ReadBE16(raw)) : 0;
+    return Field16(t_Payload(), m_count, kSogecableEntrySize, index, 0);
 }
 
 unsigned short TCDescSogecablePrivateChannelList::ChannelNumber(int index) const
 {
-    const unsigned char* raw = RawRecordAt(t_Payload(), m_count, kSogecableEntrySize, index);
-    return raw ? static_cast<unsigned short>(ReadBE16(raw + 2)) : 0;
+    return Field16(t_Payload(), m_count, kSogecableEntrySize, index, 2);
 }
 
 // ---------------------------------------------------------------- NXT service order
@@ -151,14 +157,12 @@ int TCDescNXTServiceOrder::t_Parse(const unsigned char* /*payload*/, unsigned ch
 
 unsigned short TCDescNXTServiceOrder::ServiceId(int index) const
 {
-    const unsigned char* raw = RawRecordAt(t_Payload(), static_cast<int>(m_count), kNXTEntrySize, index);
-    return raw ? static_cast<unsigned short>(ReadBE16(raw)) : 0;
+    return Field16(t_Payload(), static_cast<int>(m_count), kNXTEntrySize, index, 0);
 }
 
 unsigned short TCDescNXTServiceOrder::ServiceOrder(int index) const
 {
-    const unsigned char* raw = RawRecordAt(t_Payload(), static_cast<int>(m_count), kNXTEntrySize, index);
-    return raw ? static_cast<unsigned short>(ReadBE16(raw + 2)) : 0;
+    return Field16(t_Payload(), static_cast<int>(m_count), kNXTEntrySize, index, 2);
 }
 
 // ---------------------------------------------------------------- Otau channel order
@@ -202,12 +206,10 @@ unsigned int TCDescOtauChannelOrder::GetOrder(unsigned short serviceId) const
 
 unsigned short TCDescOtauChannelOrder::ServiceId(int index) const
 {
-    const unsigned char* raw = RawRecordAt(t_Payload(), m_count, kOtauEntrySize, index);
-    return raw ? static_cast<unsigned short>(ReadBE16(raw)) : 0;
+    return Field16(t_Payload(), m_count, kOtauEntrySize, index, 0);
 }
 
 unsigned short TCDescOtauChannelOrder::Order(int index) const
 {
-    const unsigned char* raw = RawRecordAt(t_Payload(), m_count, kOtauEntrySize, index);
-    return raw ? static_cast<unsigned short>(ReadBE16(raw + kOtauServiceIdSize) >> 4) : 0;
+    return Field16(t_Payload(), m_count, kOtauEntrySize, index, kOtauServiceIdSize, 4);
 }
