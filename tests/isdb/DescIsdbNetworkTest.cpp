@@ -244,6 +244,7 @@ TEST(DescIsdbNetwork, CapturedNitScan)
     EXPECT_FALSE(scan["tsName"].get<std::string>().empty());
     // Eleven UHF relay frequencies in 1/7 MHz units, the first 3606 (515.143 MHz).
     ASSERT_EQ(scan["frequenciesMHz"].size(), 11u);
+    EXPECT_EQ(scan["frequencies"][0], 3606);
     EXPECT_DOUBLE_EQ(scan["frequenciesMHz"][0].get<double>(), 515.143);
     EXPECT_EQ(scan["partialReceptionServiceIds"].dump(), "[23992,23993]");
     EXPECT_EQ(ts["services"].size(), 6u);

@@ -347,9 +347,13 @@ Json IsdbScan(const IDescriptorContainer& loop, const TextDecoder& text)
     Json scan = {{"remoteControlKey", info ? Json(info->RemoteControlKeyId()) : Json(nullptr)},
                  {"tsName", info ? Json(TsName(*info, text)) : Json(nullptr)}};
     Json frequencies = Json::array();
-    for (int i = 0; delivery && i < delivery->NumOfFrequency(); ++i)
-        frequencies.push_back(FrequencyMHz(delivery->Frequency(i)));
-    scan["frequenciesMHz"] = frequencies;
+    Json mhz = Json::array();
+    for (int i = 0; delivery && i < delivery->NumOfFrequency(); ++i) {
+        frequencies.push_back(delivery->Frequency(i));
+        mhz.push_back(FrequencyMHz(delivery->Frequency(i)));
+    }
+    scan["frequencies"] = frequencies;
+    scan["frequenciesMHz"] = mhz;
     Json oneSeg = Json::array();
     for (unsigned char i = 0; partial && i < partial->Count(); ++i)
         oneSeg.push_back(partial->ServiceId(i));
@@ -369,8 +373,11 @@ std::string IsdbScanLine(const Json& scan)
         line += separator + std::string("TS name \"") + scan["tsName"].get<std::string>() + "\"";
         separator = ", ";
     }
-    for (const Json& mhz : scan.at("frequenciesMHz")) {
-        line += separator + MHzText(mhz.get<double>());
+    // The stream's number in 1/7 MHz, then what a tuner is given.
+    const Json& frequencies = scan.at("frequencies");
+    for (size_t i = 0; i < frequencies.size(); ++i) {
+        line += separator + std::to_string(frequencies[i].get<unsigned>()) + " (" +
+                MHzText(scan.at("frequenciesMHz")[i].get<double>()) + ")";
         separator = ", ";
     }
     std::string oneSeg;

@@ -22,7 +22,7 @@ Json DescribeIsdbNetDescriptor(const TCBaseDesc& desc, const TextDecoder& text);
 // ISDB transport descriptor.
 Json IsdbScan(const IDescriptorContainer& loop, const TextDecoder& text);
 
-// The scan as one tree line: "remote control key 5, TS name ..., 473.143 MHz".
+// The scan as one tree line: "remote control key 5, TS name ..., 3312 (473.143 MHz)".
 std::string IsdbScanLine(const Json& scan);
 
 } // namespace zuminspect
