@@ -7,6 +7,7 @@
 
 #include "av/DescAC3.h"
 #include "dvb/DescLoopProbe.h"
+#include "inspect/IsdbNetView.h"
 #include "inspect/Session.h"
 #include "isdb/DescARIBTerrestrialDeliverySystem.h"
 #include "isdb/DescCAContractInfo.h"
@@ -219,23 +220,31 @@ TEST(DescIsdbNetwork, FactoryRows)
     });
 }
 
-// A real ISDB-T NIT (Tokyo MX): each transport stream as a scan reads it.
-TEST(DescIsdbNetwork, CapturedNitScan)
+namespace {
+
+// The transport streams of the NIT of a capture, as the inspector models them for a receiver in `country`.
+zuminspect::Json CapturedStreams(const std::string& name, const char* country)
 {
-    const std::filesystem::path file = std::filesystem::path(ZUM_CAPTURES_DIR) / "youzaka_ariblib__test_nit.ts";
-    if (!std::filesystem::exists(file))
-        GTEST_SKIP() << "no capture " << file;
-    std::ifstream in(file, std::ios::binary);
+    std::ifstream in(std::filesystem::path(ZUM_CAPTURES_DIR) / name, std::ios::binary);
     const Bytes data((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
     zuminspect::InspectSettings settings;
-    settings.country = "JPN";
+    settings.country = country;
     zumtest::BinderScope binder(zuminspect::BinderSettingsFor(settings));
     zuminspect::Session session(zuminspect::DetectInputKind(data.data(), data.size()), settings);
     session.Feed(data.data(), data.size());
     session.Finish();
     const auto model = session.Model();
-    ASSERT_EQ(model["nits"].size(), 1u);
-    const auto& streams = model["nits"][0]["transportStreams"];
+    return model["nits"].size() == 1 ? model["nits"][0]["transportStreams"] : zuminspect::Json::array();
+}
+
+} // namespace
+
+// Real ISDB-T NITs (Tokyo MX, and TV Integracao in Brazil): each transport stream as a scan reads it.
+TEST(DescIsdbNetwork, CapturedNitScan)
+{
+    if (!std::filesystem::is_directory(ZUM_CAPTURES_DIR))
+        GTEST_SKIP() << "no captures at " << ZUM_CAPTURES_DIR;
+    const zuminspect::Json streams = CapturedStreams("youzaka_ariblib__test_nit.ts", "JPN");
     ASSERT_EQ(streams.size(), 1u);
     const auto& ts = streams[0];
     ASSERT_TRUE(ts.contains("isdbScan")) << ts.dump();
@@ -250,4 +259,9 @@ TEST(DescIsdbNetwork, CapturedNitScan)
     EXPECT_EQ(ts["services"].size(), 6u);
     for (const auto& d : ts["descriptors"])
         EXPECT_TRUE(d.contains("fields")) << d.dump();
+
+    const zuminspect::Json brazil = CapturedStreams("tsduck_tsduck-test__ref_test-170.tstables.bin", "BRA");
+    ASSERT_EQ(brazil.size(), 1u);
+    EXPECT_EQ(zuminspect::IsdbScanLine(brazil[0]["isdbScan"]),
+              "ISDB scan: remote control key 7, TS name \"TV INTEGRAÇÃO\", 3984 (569.143 MHz), one-segment 0x5C38");
 }
