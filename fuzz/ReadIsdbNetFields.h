@@ -102,6 +102,16 @@ inline void Read(const TCBaseDesc* desc)
         Bytes(d->PrivateData(), d->PrivateDataLength());
 }
 
+// A system management descriptor has no factory row: any raw descriptor is
+// decoded as one by hand, as a caller would.
+inline void DecodeAsSystemManagement(const unsigned char* raw)
+{
+    TCDescSystemManagement management;
+    management.Parse(raw);
+    for (int i = -1; i <= management.NumOfAdditionalIdentificationInfo(); ++i)
+        Take(management.AdditionalIdentificationInfo(i) + management.BroadcastingFlag());
+}
+
 } // namespace isdbnetfields
 
 #endif
