@@ -1,0 +1,352 @@
+#include <fstream>
+#include <iterator>
+#include <list>
+#include <memory>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <zum-platform/Dlog.h>
+
+#include "dvb/DVBEITParser.h"
+#include "dvb/DescLinkage.h"
+#include "program/ProgramDescriptorUtil.h"
+#include "support/LogCapture.h"
+#include "support/SectionBuilder.h"
+#include "support/TestEnvironment.h"
+
+using zumtest::ByteWriter;
+using zumtest::Bytes;
+using zumtest::Concat;
+using zumtest::Desc;
+
+namespace {
+
+zum_platform::BinderSettings Country(const char* code)
+{
+    zum_platform::BinderSettings s;
+    s.countryCode = ZumPackCode(code);
+    return s;
+}
+
+TCProgramData Record(const Bytes& loop, int tableId, unsigned int sourceKind = 0)
+{
+    TCProgramData record;
+    record.SetDescriptorRawData(loop.data(), static_cast<unsigned short>(loop.size()), tableId);
+    record.SetSourceKind(sourceKind);
+    return record;
+}
+
+// One EIT section of events, each (event id, descriptor loop).
+Bytes Eit(unsigned tableId, unsigned serviceId, const std::vector<std::pair<unsigned, Bytes>>& events)
+{
+    zumtest::SectionBuilder b(zumtest::LongHeader(tableId, serviceId, 1));
+    b.U16(0x0441).U16(0x0001).U8(0).U8(tableId);
+    for (const auto& e : events)
+        b.U16(e.first).Raw({0xEA, 0x91, 0x20, 0x00, 0x00, 0x00, 0x30, 0x00}).Begin16(12, 0x8000).Raw(e.second).End();
+    return b.Build();
+}
+
+// What a guide does with a section: the EIT parser tells it new, an item of its service decodes its events,
+// and each event's raw loop goes into a program record with the event's identity. A repeat adds nothing.
+std::vector<TCProgramData> StoreEvents(TCDVBEITParser& parser, const Bytes& section)
+{
+    std::vector<TCProgramData> records;
+    if (!parser.Parse(0x12, section.data()))
+        return records;
+    const auto sid = static_cast<unsigned short>((section[3] << 8) | section[4]);
+    const auto tsid = static_cast<unsigned short>((section[8] << 8) | section[9]);
+    const auto onid = static_cast<unsigned short>((section[10] << 8) | section[11]);
+    TCDVBEITItem item(onid, tsid, sid, kZUMDefaultHandle);
+    EXPECT_TRUE(item.Parse(section.data(), static_cast<int>(section.size()), (section[5] >> 1) & 0x1F, section[6],
+                           section[7], section[0]));
+    for (int i = 0; i < item.NumOfDVBEITItemEvent(); ++i) {
+        const TCDVBEITItemEvent* event = item.DVBEITItemEvent(static_cast<unsigned>(i));
+        TCProgramData record;
+        TCProgramId id;
+        id.serviceId = sid;
+        id.eventId = event->EventId();
+        id.utcStartTime = event->StartTime();
+        id.utcDuration = event->Duration();
+        id.eitTableId = event->TableId();
+        record.SetProgramId(id);
+        record.SetOriginalNetworkId(onid);
+        record.SetTransportStreamId(tsid);
+        // The schedule tables of a service share the descriptor rules of their first table.
+        const int loopTableId = event->TableId() >= 0x50 ? (event->TableId() & 0xF0) : event->TableId();
+        record.SetDescriptorRawData(event->Descriptors(), event->DescriptorsLength(), loopTableId);
+        records.push_back(record);
+    }
+    return records;
+}
+
+std::vector<TCProgramData> StoreEvents(const Bytes& section)
+{
+    TCDVBEITParser parser(section[0], kZUMDefaultHandle);
+    return StoreEvents(parser, section);
+}
+
+// Target event, link type, id type, user defined id, transport stream, network, service, simulcast.
+using Link = std::tuple<unsigned, unsigned, unsigned, unsigned, unsigned, unsigned, unsigned, bool>;
+
+std::vector<Link> Links(const std::list<CEXTEventLinkageInfo>& list)
+{
+    std::vector<Link> out;
+    for (const CEXTEventLinkageInfo& i : list)
+        out.emplace_back(i.TargetEventId(), i.LinkType(), i.TargetIdType(), i.UserDefinedId(),
+                         i.TargetTransportStreamId(), i.TargetOriginalNetworkId(), i.TargetServiceId(),
+                         i.EventSimulcast());
+    return out;
+}
+
+constexpr unsigned kNone = 0xFFFFFFFF;
+
+// Head of a linkage: transport stream 0x0002, network 0x0003, service 0x0004, then the type.
+Bytes Linkage(unsigned type, const Bytes& rest)
+{
+    return Desc(0x4A, Concat({{0x00, 0x02, 0x00, 0x03, 0x00, 0x04, static_cast<uint8_t>(type)}, rest}));
+}
+
+// An extended event linkage of type 14: SD links (link type 1) of each target id type, one HD link.
+const Bytes kExtendedLinkage = Linkage(0x0E, {23,
+                                              0x00, 0x10, 0x40 | 0x10 | 0x00 | 0x02, 0x00, 0x33, // type 0, network
+                                              0x00, 0x11, 0x10 | 0x04 | 0x01, 0x00, 0x44, 0x00, 0x55, // type 1, service
+                                              0x00, 0x12, 0x10 | 0x08, // type 2
+                                              0x00, 0x13, 0x10 | 0x0C, 0x07, 0x77, // type 3, user defined
+                                              0x00, 0x14, 0x00}); // link type 0: not for type 14
+const Bytes kSimulcastLinkage = Linkage(0x0D, {0x00, 0x05, 0x40});
+
+} // namespace
+
+// DVB end to end: a UK guide's events, with a simulcast and an extended event linkage under the UK
+// specifier, HD video, subtitles and a rating.
+TEST(ProgramDescriptorUtil, DvbEventsEndToEnd)
+{
+    const Bytes loop = Concat({Desc(0x5F, {0x00, 0x00, 0x23, 0x3A}), kSimulcastLinkage, kExtendedLinkage,
+                               Desc(0x50, {0x05, 0x0B, 0x01, 'e', 'n', 'g', 'H', 'D'}),
+                               Desc(0x50, {0x03, 0x10, 0x02, 'e', 'n', 'g'}), Desc(0x54, {0x10, 0x00}),
+                               Desc(0x55, {'F', 'R', 'A', 0x09, 'G', 'B', 'R', 0x08}),
+                               Desc(0x4D, {'e', 'n', 'g', 1, 'N', 0})});
+    const Bytes section = Eit(0x4E, 0x0101, {{0x0A01, loop}, {0x0A02, Desc(0x4D, {'e', 'n', 'g', 0, 0})}});
+    const Link simulcast{0x0005, 0xFF, 0xFF, 0, 0x0002, 0x0003, 0x0004, true};
+    const Link typeZero{0x0010, 1, 0, 0, 0x0002, 0x0033, 0x0004, true};
+    const Link typeOne{0x0011, 1, 1, 0, 0x0044, 0x0003, 0x0055, false};
+    const Link typeTwo{0x0012, 1, 2, 0, kNone, 0x0003, 0x0004, false};
+    const Link userDefined{0x0013, 1, 3, 0x0777, kNone, kNone, kNone, false};
+    struct Case {
+        const char* country;
+        std::vector<Link> links;
+    } cases[] = {{"GBR", {simulcast, typeZero, typeOne, typeTwo, userDefined}},
+                 {"FRA", {simulcast, typeZero, typeOne, typeTwo}}}; // a user defined id is British
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.country);
+        zumtest::BinderScope binder(Country(c.country));
+        const std::vector<TCProgramData> records = StoreEvents(section);
+        ASSERT_EQ(records.size(), 2u);
+        TCProgramDescriptorUtil util(records[0]);
+        EXPECT_EQ(util.SizeOfDescriptor(), 6); // the specifier and the short event are not kept
+        EXPECT_EQ(util.SizeOfDescriptor(0x4A), 2);
+        EXPECT_EQ(util.Descriptor(0x4A, 2), nullptr);
+        ASSERT_NE(util.DescriptorByIndex(5), nullptr);
+        EXPECT_EQ(util.DescriptorByIndex(5)->Tag(), 0x55);
+        EXPECT_TRUE(util.IsHD());
+        EXPECT_TRUE(util.IsSubtitleAvailable());
+        EXPECT_FALSE(util.IsSignLanguageAvailable());
+        EXPECT_FALSE(util.IsADAvailable());
+        unsigned short ts = 0, network = 0, service = 0, event = 0;
+        bool flag = false;
+        ASSERT_TRUE(util.HDSimulcastEvent(ts, network, service, event, flag));
+        EXPECT_EQ(std::make_tuple(ts, network, service, event, flag), std::make_tuple(2, 3, 4, 5, true));
+        std::list<CEXTEventLinkageInfo> list;
+        unsigned char linkageType = 0;
+        EXPECT_TRUE(util.GetEventLinkageInfoList(list, linkageType));
+        EXPECT_EQ(linkageType, 0x0E);
+        EXPECT_EQ(Links(list), c.links);
+        TSRatingInfo rating;
+        ASSERT_TRUE(util.GetRatingInfo(rating));
+        EXPECT_EQ(rating.ratingValue, c.country[0] == 'G' ? 8 : 9);
+        for (int type = 0; type < 4; ++type) // no ISDB country: no components
+            EXPECT_EQ(util.NumOfComponent(static_cast<TCProgramData::EComponentType>(type)), 0);
+        std::basic_string<unsigned short> text{'x'};
+        EXPECT_TRUE(util.GetComponentText(0x01, 1, text));
+        EXPECT_EQ(text, std::basic_string<unsigned short>{'H'});
+        EXPECT_TRUE(util.GetComponentText(0x02, 10, text)); // no text: the caller's stays
+        EXPECT_EQ(text, std::basic_string<unsigned short>{'H'});
+        EXPECT_FALSE(util.GetComponentText(0x03, 10, text));
+
+        TCProgramDescriptorUtil plain(records[1]);
+        EXPECT_EQ(plain.SizeOfDescriptor(), 0);
+        EXPECT_FALSE(plain.HDSimulcastEvent(ts, network, service, event, flag) || plain.GetRatingInfo(rating) ||
+                     plain.IsHD() || plain.IsSubtitleAvailable());
+        EXPECT_TRUE(plain.GetEventLinkageInfoList(list, linkageType)); // the caller's entries count
+    }
+}
+
+// The record's source kind decides which descriptors are kept, and so what the queries see.
+TEST(ProgramDescriptorUtil, SourceKindFilter)
+{
+    struct Case {
+        const char* country;
+        int tableId;
+        unsigned int kind;
+        int kept;
+        bool ad, subtitle, rating;
+        int nullLogs; // "pDescComponent is null"
+    } cases[] = {
+        // DVB: a private 0x81 that is no AC-3 audio (Digiturk's channel numbers), an AD component, a rating.
+        {"GBR", 0x4E, 0, 4, true, false, true, 1},
+        {"GBR", 0x4E, 1, 3, true, false, true, 0},
+        {"GBR", 0x4E, 3, 2, true, false, false, 0},
+        // PSIP: AC-3 audio for the visually impaired and a caption service.
+        {"USA", 0xCB, 0, 2, true, true, false, 0},
+        {"USA", 0xCB, 2, 0, false, false, false, 0},
+    };
+    const Bytes dvb = Concat({Desc(0x5F, {0x00, 0x2F, 0xFF, 0xFF}), Desc(0x81, {0x00, 0x00, 0x40}), Desc(0x50, {0x02, 0x47, 0x01, 'e', 'n', 'g'}),
+                              Desc(0x54, {0x10, 0x00}), Desc(0x55, {'G', 'B', 'R', 0x05})});
+    const Bytes psip = Concat({Desc(0x81, {0x00, 0x00, 0x40}), Desc(0x86, {0xC0})});
+    for (const Case& c : cases) {
+        SCOPED_TRACE(std::string(c.country) + " kind " + std::to_string(c.kind));
+        zumtest::BinderScope binder(Country(c.country));
+        zumtest::LogCapture log;
+        TCProgramDescriptorUtil util(Record(c.tableId == 0xCB ? psip : dvb, c.tableId, c.kind));
+        EXPECT_EQ(util.SizeOfDescriptor(), c.kept);
+        EXPECT_EQ(util.IsADAvailable(), c.ad);
+        EXPECT_EQ(util.IsSubtitleAvailable(), c.subtitle);
+        TSRatingInfo info;
+        EXPECT_EQ(util.GetRatingInfo(info), c.rating);
+        EXPECT_EQ(log.Count("[TCProgramDescriptorUtil] pDescComponent is null"), c.nullLogs);
+    }
+    // A record without a loop is an empty object.
+    TCProgramDescriptorUtil empty{TCProgramData()};
+    std::list<CEXTEventLinkageInfo> list;
+    unsigned char type = 7;
+    EXPECT_FALSE(empty.GetEventLinkageInfoList(list, type));
+    EXPECT_EQ(type, 7);
+    EXPECT_EQ(empty.DescriptorByIndex(0), nullptr);
+}
+
+// The closing debug lines carry the event's identity.
+TEST(ProgramDescriptorUtil, QueryLogLines)
+{
+    zumtest::BinderScope binder(Country("GBR"));
+    TCProgramData record = Record(Concat({kSimulcastLinkage, kExtendedLinkage}), 0x4E);
+    TCProgramId id;
+    id.serviceId = 0x100000001ULL;
+    id.eventId = 7;
+    id.utcStartTime = 1000;
+    id.utcDuration = 60;
+    id.eitTableId = 0x4E;
+    id.eitNumber = 2;
+    record.SetProgramId(id);
+    TCProgramDescriptorUtil util(record);
+    zumtest::LogCapture log;
+    util.IsADAvailable();
+    util.IsHD();
+    std::list<CEXTEventLinkageInfo> list;
+    unsigned char type = 0;
+    util.GetEventLinkageInfoList(list, type);
+    const std::string programId = "in_programId(serviceid=4294967297, m_eventId=7, utc_starttime=1000, "
+                                  "utc_duration=60, eit_table_id=78, eit_number=2)";
+    EXPECT_EQ(log.Lines(DLOG_DEBUG),
+              (std::vector<std::string>{
+                  "[TCProgramDescriptorUtil::IsADAvailable] ret=0, SizeOfDescriptor=2, " + programId,
+                  "[TCProgramDescriptorUtil::IsHD] ret=0, " + programId,
+                  "[TCProgramDescriptorUtil::GetEventLinkageInfoList] ret=1, " + programId +
+                      ", out_linkageType=14, out_eventLinkageList.size()=4"}));
+}
+
+// Components are made once per object: the copy of the record keeps them. A type outside 0..3 asserts.
+TEST(ProgramDescriptorUtil, ComponentsAreMadeOnce)
+{
+    zumtest::UseReleasedImage();
+    zumtest::BinderScope binder(Country("BRA"));
+    const Bytes loop = Concat({Desc(0x50, {0x01, 0xB3, 0x00, 'p', 'o', 'r'}), Desc(0x50, {0x02, 0x03, 0x10, 'p', 'o', 'r'}),
+                               Desc(0x50, {0x02, 0x03, 0x11, 'e', 'n', 'g'})});
+    const TCProgramData record = Record(loop, 0x4E);
+    TCProgramDescriptorUtil util(record);
+    EXPECT_EQ(util.NumOfComponent(TCProgramData::COMP_TYPE_AUDIO), 2);
+    binder->countryCode = ZumPackCode("GBR"); // no components here any more, but they were made
+    std::vector<TCProgramData::TTComp> list;
+    ASSERT_TRUE(util.GetComponentList(TCProgramData::COMP_TYPE_AUDIO, list));
+    ASSERT_EQ(list.size(), 2u);
+    EXPECT_EQ(list[1].componentTag, 0x11);
+    TCProgramData::TTComp comp;
+    EXPECT_TRUE(util.GetComponent(TCProgramData::COMP_TYPE_VIDEO, 0, comp));
+    EXPECT_EQ(comp.componentType, 0xB3);
+    EXPECT_FALSE(util.GetComponent(TCProgramData::COMP_TYPE_VIDEO, 1, comp));
+    TCProgramData::TCProgCompData unchanged;
+    EXPECT_FALSE(record.GetProgCompData(unchanged)); // the caller's record is not touched
+    EXPECT_EQ(TCProgramDescriptorUtil(record).NumOfComponent(TCProgramData::COMP_TYPE_AUDIO), 0);
+
+    zumtest::LogCapture log;
+    EXPECT_EQ(util.NumOfComponent(static_cast<TCProgramData::EComponentType>(4)), 0);
+    EXPECT_FALSE(util.GetComponent(static_cast<TCProgramData::EComponentType>(7), 0, comp));
+    EXPECT_FALSE(util.GetComponentList(TCProgramData::COMP_TYPE_INVALID, list));
+    int asserts = 0;
+    for (const std::string& line : log.Lines(DLOG_ERROR))
+        asserts += line.find("Failed: type > TCProgramData::COMP_TYPE_INVALID && type < "
+                             "TCProgramData::COMP_TYPE_MAX") != std::string::npos;
+    EXPECT_EQ(asserts, 3);
+}
+
+// Real EITs of a DVB and an ISDB-Tb country, stored as a guide would: the rating is the entry of the
+// receiver's country as the raw bytes hold it, and Brazilian events list their video components.
+TEST(ProgramDescriptorUtilCapture, RecordedEventsAnswer)
+{
+    const std::string dir = ZUM_CAPTURES_DIR;
+    const struct {
+        const char* file;
+        const char* country;
+        int events;
+    } captures[] = {{"tsduck_tsduck-test__test-038.bin", "CZE", 500}, {"tsduck_tsduck-test__ref_test-170.tstables.bin", "BRA", 2}};
+    if (!std::ifstream(dir + "/" + captures[0].file))
+        GTEST_SKIP() << "no captures at " << dir;
+    for (const auto& capture : captures) {
+        SCOPED_TRACE(capture.file);
+        zumtest::BinderScope binder(Country(capture.country));
+        std::ifstream in(dir + "/" + capture.file, std::ios::binary);
+        const Bytes all((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+        TCDVBEITParser parser(0x4E, kZUMDefaultHandle);
+        int events = 0, rated = 0, videos = 0;
+        for (size_t at = 0, size = 0; at + 3 <= all.size(); at += size) {
+            size = static_cast<size_t>(((all[at + 1] & 0x0F) << 8) | all[at + 2]) + 3;
+            if (at + size > all.size())
+                break;
+            const Bytes section(all.begin() + static_cast<long>(at), all.begin() + static_cast<long>(at + size));
+            if (section[0] < 0x4E || section[0] > 0x6F)
+                continue;
+            for (const TCProgramData& record : StoreEvents(parser, section)) {
+                ++events;
+                unsigned char* loop = nullptr;
+                unsigned short length = 0;
+                int tableId = 0;
+                // The rating entry of the country, read by hand.
+                int expected = -1;
+                for (unsigned short i = 0; record.GetDescriptorRawDataBuffer(loop, length, tableId) && i + 2 <= length;
+                     i = static_cast<unsigned short>(i + 2 + loop[i + 1]))
+                    for (int k = 0; loop[i] == 0x55 && k + 4 <= loop[i + 1] && i + 2 + k + 4 <= length; k += 4)
+                        if (ZumPackCode(static_cast<char>(loop[i + 2 + k]), static_cast<char>(loop[i + 3 + k]),
+                                        static_cast<char>(loop[i + 4 + k])) == ZumPackCode(capture.country))
+                            expected = loop[i + 5 + k];
+                TCProgramDescriptorUtil util(record);
+                TSRatingInfo info;
+                if (expected >= 0) {
+                    ++rated;
+                    ASSERT_TRUE(util.GetRatingInfo(info));
+                    EXPECT_EQ(info.ratingValue, expected);
+                }
+                TCProgramData::TTComp video;
+                if (util.GetComponent(TCProgramData::COMP_TYPE_VIDEO, 0, video)) {
+                    ++videos;
+                    EXPECT_LE(video.componentTag, 0x0F);
+                    EXPECT_EQ(video.language, ZumPackCode("por"));
+                }
+            }
+        }
+        EXPECT_GE(events, capture.events);
+        EXPECT_GT(rated, 0);
+        EXPECT_EQ(videos, capture.country[0] == 'B' ? events : 0);
+    }
+}
