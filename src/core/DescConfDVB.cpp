@@ -16,6 +16,11 @@
 #include "../dvb/DescLinkage.h"
 #include "../dvb/DescLocalTimeOffset.h"
 #include "../dvb/DescSatelliteDeliverySystem.h"
+#include "../isdb/DescAudioComponent.h"
+#include "../isdb/DescBoardInformation.h"
+#include "../isdb/DescComponentGroup.h"
+#include "../isdb/DescDigitalCopyControl.h"
+#include "../isdb/DescEventGroup.h"
 #include "../operators/DescAstraServiceListName.h"
 #include "../operators/DescCIPlusService.h"
 #include "../operators/DescDSmartIdentifier.h"
@@ -354,6 +359,8 @@ TCBaseDesc* TCDescConfISDB::NewDescriptor(int tag, const unsigned char* data, un
 TCBaseDesc* TCDescConfISDB::t_ProcessPrivateDesc(int tag, unsigned int /*pds*/)
 {
     switch (tag) {
+    case 0xC4: return new TCDescAudioComponent();
+    case 0xC7: return new TCDescDataContent();
     default: return new TCDescDefault(tag);
     }
 }
@@ -363,6 +370,12 @@ TCDescConfJPN::TCDescConfJPN(const ZUMHandle& handle) : TCDescConfISDB(handle) {
 TCBaseDesc* TCDescConfJPN::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
 {
     switch (tag) {
+    case 0xC1: return new TCDescDigitalCopyControl();
+    case 0xD5: return new TCDescSeries();
+    case 0xD6: return new TCDescEventGroup();
+    case 0xD9: return new TCDescComponentGroup();
+    case 0xDB: return new TCDescBoardInformation();
+    case 0xDE: return new TCDescContentAvailability();
     default: return TCDescConfISDB::NewDescriptor(tag, data, pds);
     }
 }
