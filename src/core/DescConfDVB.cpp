@@ -16,11 +16,13 @@
 #include "../dvb/DescLinkage.h"
 #include "../dvb/DescLocalTimeOffset.h"
 #include "../dvb/DescSatelliteDeliverySystem.h"
+#include "../isdb/DescAbstractService.h"
 #include "../isdb/DescAudioComponent.h"
 #include "../isdb/DescBoardInformation.h"
 #include "../isdb/DescComponentGroup.h"
 #include "../isdb/DescDigitalCopyControl.h"
 #include "../isdb/DescEventGroup.h"
+#include "../isdb/DescScheduling.h"
 #include "../operators/DescAstraServiceListName.h"
 #include "../operators/DescCIPlusService.h"
 #include "../operators/DescDSmartIdentifier.h"
@@ -46,6 +48,7 @@ TCDescConfDVB::TCDescConfDVB(const ZUMHandle& handle) : m_handle(handle) {}
 TCBaseDesc* TCDescConfDVB::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
 {
     switch (tag) {
+    case 0x01: return new TCDescScheduling();
     case 0x03: return new TCDescSSULocation();
     case 0x25: return new TCDescMetadataPointer();
     case 0x40: return new TCDescNetworkName();
@@ -71,6 +74,8 @@ TCBaseDesc* TCDescConfDVB::NewDescriptor(int tag, const unsigned char* data, uns
     case 0x64: return new TCDescDataBroadcast();
     case 0x66: return new TCDescDataBroadcastId();
     case 0x6A: return new TCDescAC3();
+    case 0x71: return new TCDescServiceIdentifier();
+    case 0x72: return new TCDescServiceAvailability();
     case 0x7A: return new TCDescEnhancedAC3();
     case 0x7E: return new TCDescFTAContentManagement();
     case 0x7F: return TCDescExtension::ProcessExtensionDescriptor(data, pds);
@@ -229,6 +234,7 @@ TCBaseDesc* TCDescConfDVB::m_NewDSmartPrivateDesc(int tag, unsigned int pds)
 TCBaseDesc* TCDescConfDVB::m_NewAirTelPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {
+    case 0xCC: return new TCDescEPGInformation();
     case 0xE2: return new TCDescLogicalChannel(0xE2, pds);
     default: return t_NewDefaultPrivateDesc(tag, pds);
     }
