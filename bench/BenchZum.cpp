@@ -4,6 +4,7 @@
 
 #include <cstring>
 #include <memory>
+#include <optional>
 
 #include <zum-platform/PlatformConfig.h>
 
@@ -143,6 +144,23 @@ void Sdt(benchmark::State& state)
     RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
 }
 
+// A receiver's country for one benchmark: the PSIP tables are read under an
+// ATSC country, which picks the PSIP descriptor factory; the ISDB EIT under
+// Japan, which picks the ARIB one.
+class ReceiverCountry {
+public:
+    explicit ReceiverCountry(const char* code) : m_saved(zum_platform::Binder().countryCode)
+    {
+        zum_platform::Binder().countryCode = ZumPackCode(code);
+    }
+    ~ReceiverCountry() { zum_platform::Binder().countryCode = m_saved; }
+    ReceiverCountry(const ReceiverCountry&) = delete;
+    ReceiverCountry& operator=(const ReceiverCountry&) = delete;
+
+private:
+    ECountryCode m_saved;
+};
+
 // The EIT road of a receiver: the parser says which section is new, the
 // caller's item decodes its events; with `decodeLoops` each event's raw
 // descriptor loop then goes through a TCDescriptor, as the guide does when it
@@ -196,6 +214,9 @@ private:
 
 void Eit(benchmark::State& state, Family family, bool decodeLoops)
 {
+    std::optional<ReceiverCountry> japan;
+    if (family == Family::EitIsdb)
+        japan.emplace("JPN");
     const Table& table = TableOf(family);
     EitReader reader(table.tableId, decodeLoops);
     const int events = family == Family::EitPf ? 2 : 2 * kEitScheduleEventsPerSection;
@@ -224,22 +245,10 @@ void DescriptorLoop(benchmark::State& state)
     RunPasses(state, table, [&](uint64_t) { benchmark::DoNotOptimize(decode()); });
 }
 
-// The PSIP tables are read as a North American receiver reads them: under an
-// ATSC country, which picks the PSIP descriptor factory.
-class AtscCountry {
-public:
-    AtscCountry() : m_saved(zum_platform::Binder().countryCode) { zum_platform::Binder().countryCode = ZumPackCode("USA"); }
-    ~AtscCountry() { zum_platform::Binder().countryCode = m_saved; }
-    AtscCountry(const AtscCountry&) = delete;
-    AtscCountry& operator=(const AtscCountry&) = delete;
-
-private:
-    ECountryCode m_saved;
-};
 
 void Mgt(benchmark::State& state)
 {
-    const AtscCountry country;
+    const ReceiverCountry country("USA");
     const Table& table = TableOf(Family::Mgt);
     TCMGTParser parser(kHandle);
     parser.Initialize();
@@ -251,7 +260,7 @@ void Mgt(benchmark::State& state)
 
 void Tvct(benchmark::State& state)
 {
-    const AtscCountry country;
+    const ReceiverCountry country("USA");
     const Table& table = TableOf(Family::Tvct);
     TCTVCTParser parser(kHandle);
     parser.Initialize();
@@ -276,6 +285,7 @@ void RegisterZum(Family family)
     case Family::EitPf:
     case Family::EitSchedule:
     case Family::EitScheduleCompressed:
+    case Family::EitIsdb:
         Register(family, kZum, [family](benchmark::State& state) { Eit(state, family, true); });
         Register(family, kZumRaw, [family](benchmark::State& state) { Eit(state, family, false); });
         break;

@@ -30,6 +30,7 @@
 #include "ReadOperatorFields.h"
 #include "operators/DescTKGSComponent.h"
 #include "ReadFSatFields.h"
+#include "ReadIsdbEventFields.h"
 
 namespace fuzzfields {
 
@@ -214,6 +215,7 @@ inline void Read(TCBaseDesc* desc)
     if (auto* d = dynamic_cast<TCDescTKGSComponent*>(desc))
         Take(d->Flag() + d->Found());
     fsatfields::Read(desc);
+    isdbeventfields::ReadEventFamily(desc);
 }
 
 } // namespace fuzzfields

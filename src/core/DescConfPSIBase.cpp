@@ -16,6 +16,8 @@
 #include "../dvb/DescLinkage.h"
 #include "../dvb/DescPrivateDataSpecifier.h"
 #include "../dvb/DescServiceMove.h"
+#include "../isdb/DescAudioComponent.h"
+#include "../isdb/DescDigitalCopyControl.h"
 #include "../isdb/DescEmergencyInformation.h"
 #include "../operators/DescTKGSComponent.h"
 #include "../operators/DescFSatLinkage.h"
@@ -110,7 +112,10 @@ TCBaseDesc* TCDescConfPsiISDB::NewDescriptor(int tag, const unsigned char* data,
 {
     switch (tag) {
     case 0x55: return new TCDescParentalRating();
+    case 0xC1: return new TCDescDigitalCopyControl();
+    case 0xDE: return new TCDescContentAvailability();
     case 0xFC: return new TCDescEmergencyInformation();
+    case 0xFD: return new TCDescDataComponent();
     default: return TCDescConfPsiDVB::NewDescriptor(tag, data, pds);
     }
 }
