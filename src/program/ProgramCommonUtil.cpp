@@ -9,10 +9,14 @@
 #include "../core/Diagnostics.h"
 #include "../dvb/DescComponent.h"
 #include "../dvb/DescContent.h"
+#include "../isdb/DescAudioComponent.h"
 
 namespace {
 
 constexpr int kTagComponent = 0x50;
+constexpr int kTagAudioComponent = 0xC4;
+constexpr int kTagDataContent = 0xC7;
+constexpr unsigned char kEntryDataService = 0x40;
 constexpr unsigned short kComponentTextCapacity = 256;
 constexpr ECountryCode kBrazil = ZumPackCode("BRA");
 constexpr ECountryCode kPoland = ZumPackCode("POL");
@@ -133,7 +137,22 @@ bool TCProgramCommonUtilISDB::MakeComponent(const IDescriptorContainer& containe
         if (desc == nullptr)
             continue;
         TCProgramData::TTComp comp;
-        if (desc->Tag() == kTagComponent) {
+        if (desc->Tag() == kTagAudioComponent) {
+            const auto* audio = dynamic_cast<const TCDescAudioComponent*>(desc);
+            if (audio == nullptr)
+                continue;
+            comp.componentTag = audio->ComponentTag();
+            comp.componentType = audio->ComponentType();
+            comp.language = TCMultipleStringStruct::MultipleSound(audio->ISO639LanguageCode());
+            comp.qualityIndicator = audio->QualityIndicator();
+            TakeComponentText(*audio, converter, comp);
+            compData.AddComponent(TCProgramData::COMP_TYPE_AUDIO, comp);
+            // A bilingual stream is listed once per language, with the one text.
+            if (audio->ESMultiLingualFlag()) {
+                comp.language = TCMultipleStringStruct::MultipleSound(audio->ISO639LanguageCode2());
+                compData.AddComponent(TCProgramData::COMP_TYPE_AUDIO, comp);
+            }
+        } else if (desc->Tag() == kTagComponent) {
             const auto* component = dynamic_cast<const TCDescComponent*>(desc);
             if (component == nullptr)
                 continue;
@@ -145,20 +164,52 @@ bool TCProgramCommonUtilISDB::MakeComponent(const IDescriptorContainer& containe
             comp.language = TCMultipleStringStruct::MultipleSound(component->Language());
             TakeComponentText(*component, converter, comp);
             compData.AddComponent(type, comp);
+        } else if (desc->Tag() == kTagDataContent) {
+            const auto* content = dynamic_cast<const TCDescDataContent*>(desc);
+            if (content == nullptr)
+                continue;
+            const TCProgramData::EComponentType type = TCProgramData::ISDBCompType(content->EntryComponent());
+            if (static_cast<unsigned int>(type) == 0xFFFFFFFF)
+                continue;
+            comp.componentTag = content->EntryComponent();
+            comp.componentType = 0;
+            comp.language = TCMultipleStringStruct::MultipleSound(content->ISO639LanguageCode());
+            TakeComponentText(*content, converter, comp);
+            compData.AddComponent(type, comp);
         }
     }
     return true;
 }
 
-bool TCProgramCommonUtilISDB::DataServiceAvailable(const IDescriptorContainer&)
+bool TCProgramCommonUtilISDB::DataServiceAvailable(const IDescriptorContainer& container)
 {
+    for (int i = 0; i < container.NumOfDescriptors(kTagDataContent); ++i) {
+        const auto* content = dynamic_cast<const TCDescDataContent*>(
+            container.Descriptor(kTagDataContent, static_cast<unsigned int>(i)));
+        if (content != nullptr && content->EntryComponent() == kEntryDataService)
+            return true;
+    }
     return false;
 }
 
 // ---------------------------------------------------------------- Japan
 
-bool TCProgramCommonUtilJPN::DataServiceAvailable(const IDescriptorContainer&)
+bool TCProgramCommonUtilJPN::DataServiceAvailable(const IDescriptorContainer& container)
 {
+    for (int i = 0; i < container.NumOfDescriptors(kTagDataContent); ++i) {
+        const auto* content = dynamic_cast<const TCDescDataContent*>(
+            container.Descriptor(kTagDataContent, static_cast<unsigned int>(i)));
+        if (content == nullptr)
+            continue;
+        const unsigned short id = content->DataComponentId();
+        if (id != 7 && id != 11 && id != 12)
+            continue;
+        // The first data coding of these decides: bit 3 of the selector's second byte.
+        unsigned char selector[256];
+        int size = sizeof selector;
+        content->SelectorByte(selector, &size);
+        return size >= 2 && (selector[1] & 0x08) != 0;
+    }
     return false;
 }
 

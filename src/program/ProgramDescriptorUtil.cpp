@@ -1,6 +1,7 @@
 #include "ProgramDescriptorUtil.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include <zum-platform/Binder.h>
 #include <zum-platform/UnicodeConverter.h>
@@ -11,6 +12,8 @@
 #include "../dvb/DescComponent.h"
 #include "../dvb/DescContent.h"
 #include "../dvb/DescLinkage.h"
+#include "../isdb/DescComponentGroup.h"
+#include "../isdb/DescEventGroup.h"
 #include "ProgramCommonUtil.h"
 
 namespace {
@@ -21,6 +24,14 @@ constexpr int kTagContent = 0x54;
 constexpr int kTagParentalRating = 0x55;
 constexpr int kTagAC3Audio = 0x81;
 constexpr int kTagCaptionService = 0x86;
+constexpr int kTagSeries = 0xD5;
+constexpr int kTagEventGroup = 0xD6;
+constexpr int kTagComponentGroup = 0xD9;
+
+// Event group types of ARIB: common event, relay to an event, relay to an event of another network.
+constexpr int kGroupCommon = 1;
+constexpr int kGroupRelay = 2;
+constexpr int kGroupRelayOther = 4;
 
 constexpr unsigned char kLinkageSimulcast = 0x0D;
 constexpr unsigned char kLinkageExtendedFirst = 0x0E;
@@ -240,6 +251,129 @@ bool TCProgramDescriptorUtil::GetEventLinkageInfoList(std::list<CEXTEventLinkage
              ", out_linkageType=%d, out_eventLinkageList.size()=%d",
              __func__, static_cast<int>(ret), ZUM_PROGRAM_ID_ARGS(id), linkageType, static_cast<int>(list.size()));
     return ret;
+}
+
+// The events of this network in a group, with the network of the record.
+static void AppendGroup(const TCDescEventGroup& group, const TCProgramData& record,
+                        std::list<TCProgramData::TTEventInfo>& list)
+{
+    for (int i = 0; i < group.EventCount(); ++i) {
+        const TCDescEventGroup::TTEvent* event = group.Group(i);
+        if (event == nullptr)
+            continue;
+        TCProgramData::TTEventInfo info;
+        info.transportStreamId = record.TransportStreamId();
+        info.originalNetworkId = record.OriginalNetworkId();
+        info.serviceId = event->serviceId;
+        info.eventId = event->eventId;
+        list.push_back(info);
+    }
+}
+
+static TCProgramData::TTEventInfo OtherNetworkEvent(const TCDescEventGroup::TTOtherNetworkEvent& event)
+{
+    TCProgramData::TTEventInfo info;
+    info.transportStreamId = event.transportStreamId;
+    info.originalNetworkId = event.originalNetworkId;
+    info.serviceId = event.serviceId;
+    info.eventId = event.eventId;
+    return info;
+}
+
+bool TCProgramDescriptorUtil::GetRelayedEventInfo(TCProgramData::TTEventInfo& info)
+{
+    for (int i = 0; i < m_descriptors.NumOfDescriptors(kTagEventGroup); ++i) {
+        const auto* group = dynamic_cast<const TCDescEventGroup*>(
+            m_descriptors.Descriptor(kTagEventGroup, static_cast<unsigned int>(i)));
+        if (group == nullptr)
+            continue;
+        if (group->GroupType() == kGroupRelay && group->EventCount() >= 1 && group->Group(0) != nullptr) {
+            info.serviceId = group->Group(0)->serviceId;
+            info.eventId = group->Group(0)->eventId;
+            info.originalNetworkId = m_programData.OriginalNetworkId();
+            info.transportStreamId = m_programData.TransportStreamId();
+            return true;
+        }
+        if (group->GroupType() == kGroupRelayOther && group->OtherNetworkCount() >= 1) {
+            const TCProgramData::TTEventInfo other = OtherNetworkEvent(*group->GroupOther(0));
+            info.transportStreamId = other.transportStreamId;
+            info.originalNetworkId = other.originalNetworkId;
+            info.serviceId = other.serviceId;
+            info.eventId = other.eventId;
+            return true;
+        }
+    }
+    return false;
+}
+
+bool TCProgramDescriptorUtil::GetEventGroupInfoList(int groupType, std::list<TCProgramData::TTEventInfo>& list)
+{
+    for (int i = 0; i < m_descriptors.NumOfDescriptors(kTagEventGroup); ++i) {
+        const auto* group = dynamic_cast<const TCDescEventGroup*>(
+            m_descriptors.Descriptor(kTagEventGroup, static_cast<unsigned int>(i)));
+        if (group == nullptr || group->GroupType() != groupType)
+            continue;
+        if (groupType == 2 || groupType == 3)
+            AppendGroup(*group, m_programData, list);
+        else if (groupType == 4 || groupType == 5)
+            for (int k = 0; k < group->OtherNetworkCount(); ++k)
+                list.push_back(OtherNetworkEvent(*group->GroupOther(k)));
+        break;
+    }
+    return !list.empty();
+}
+
+bool TCProgramDescriptorUtil::GetCommonEvent(std::list<TCProgramData::TTEventInfo>& list)
+{
+    const size_t before = list.size();
+    for (int i = 0; i < m_descriptors.NumOfDescriptors(kTagEventGroup); ++i) {
+        const auto* group = dynamic_cast<const TCDescEventGroup*>(
+            m_descriptors.Descriptor(kTagEventGroup, static_cast<unsigned int>(i)));
+        if (group != nullptr && group->GroupType() == kGroupCommon)
+            AppendGroup(*group, m_programData, list);
+    }
+    return list.size() > before;
+}
+
+bool TCProgramDescriptorUtil::GetSeriesInfo(TCProgramData::TTSeriesItem& item, const ZUMHandle& handle)
+{
+    const auto* series = dynamic_cast<const TCDescSeries*>(m_descriptors.Descriptor(kTagSeries, 0));
+    if (series == nullptr)
+        return false;
+    item.seriesId = series->SeriesId();
+    item.repeatLabel = series->RepeatLabel();
+    item.expireDate = series->ExpireDate();
+    item.programPattern = series->ProgramPattern();
+    item.episodeNumber = series->EpisodeNumber();
+    item.lastEpisodeNumber = series->LastEpisodeNumber();
+    if (series->SeriesNameLength() > 0) {
+        // A name is one descriptor's worth at most; a larger buffer takes it whole.
+        unsigned char name[256];
+        unsigned short nameLength = sizeof name;
+        series->GetSeriesName(name, &nameLength);
+        unsigned short outLength = TCProgramData::TTSeriesItem::kSeriesNameCapacity;
+        TCUnicodeConverter converter(handle);
+        const bool converted = converter.ConvertToUnicode(name, nameLength, item.seriesName, outLength, false,
+                                                          static_cast<ELanguageCode>(-1), true);
+        item.seriesNameLength = converted ? outLength : 0;
+    } else {
+        // The event's title stands in, with its terminating zero.
+        unsigned short title[TCProgramData::TTSeriesItem::kSeriesNameCapacity / 2];
+        unsigned int units = TCProgramData::TTSeriesItem::kSeriesNameCapacity / 2;
+        // Title() cuts a long title and always ends it with a zero inside the capacity.
+        m_programData.Title(title, &units);
+        std::memcpy(item.seriesName, title, (units + 1) * sizeof title[0]);
+        item.seriesNameLength = 0;
+    }
+    return true;
+}
+
+int TCProgramDescriptorUtil::NumOfComponentGroup()
+{
+    if (!t_IsAvailableDescriptor(kTagComponentGroup))
+        return 0;
+    const auto* groups = dynamic_cast<const TCDescComponentGroup*>(m_descriptors.Descriptor(kTagComponentGroup, 0));
+    return groups != nullptr ? groups->NumOfGroup() : 0;
 }
 
 bool TCProgramDescriptorUtil::DataServiceAvailable()

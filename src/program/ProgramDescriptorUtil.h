@@ -37,11 +37,19 @@ public:
     // Appends the event links of the linkages; linkageType is the last linkage's type.
     bool GetEventLinkageInfoList(std::list<CEXTEventLinkageInfo>& list, unsigned char& linkageType);
 
+    // From the event group descriptors: the event this one relays, the group of a type, the common events.
+    bool GetRelayedEventInfo(TCProgramData::TTEventInfo& info);
+    bool GetEventGroupInfoList(int groupType, std::list<TCProgramData::TTEventInfo>& list);
+    bool GetCommonEvent(std::list<TCProgramData::TTEventInfo>& list);
+    // The series descriptor; the series name is converted with the handle's converter.
+    bool GetSeriesInfo(TCProgramData::TTSeriesItem& item, const ZUMHandle& handle);
+
     bool DataServiceAvailable();
     // Types 0 to 3; the first call makes the components and keeps them in the copy of the record.
     int NumOfComponent(TCProgramData::EComponentType type);
     bool GetComponent(TCProgramData::EComponentType type, int index, TCProgramData::TTComp& comp);
     bool GetComponentList(TCProgramData::EComponentType type, std::vector<TCProgramData::TTComp>& list);
+    int NumOfComponentGroup();
     // The text of the component descriptor of that tag, at most maxLength bytes of it, converted.
     bool GetComponentText(unsigned char componentTag, int maxLength, std::basic_string<unsigned short>& text);
     bool GetRatingInfo(TSRatingInfo& info);

@@ -198,3 +198,66 @@ TEST(ProgramCommonUtil, ComponentsFromComponentDescriptors)
     EXPECT_FALSE(util.ConvertToUnicode(in, sizeof in, out, outLength, ZumPackCode("eng")));
     EXPECT_EQ(Utf16(out, outLength), U("ab"));
 }
+
+// ARIB audio and data content components: a bilingual stream gives two audio entries with one text, a data
+// content its entry component with type 0; a data service is found by its entry component or, in Japan, by
+// the selector of the first data coding that has one.
+TEST(ProgramCommonUtil, AudioAndDataContentComponents)
+{
+    const Bytes bilingual = Desc(0xC4, {0x02, 0x03, 0x10, 0x0F, 0xFF, 0xEF, 'j', 'p', 'n', 'E', 'N', 'G', 0x15, 'D', 'u', 'o'});
+    const Bytes mono = Desc(0xC4, {0x02, 0x01, 0x11, 0x0F, 0xFF, 0x6F, 'j', 'p', 'n'});
+    const Bytes captions = Desc(0xC7, {0x00, 0x08, 0x30, 0x00, 0x00, 'p', 'o', 'r', 0x00});
+    auto dataContent = [](unsigned id, unsigned entry, const Bytes& selector) {
+        Bytes body{static_cast<uint8_t>(id >> 8), static_cast<uint8_t>(id), static_cast<uint8_t>(entry),
+                   static_cast<uint8_t>(selector.size())};
+        body.insert(body.end(), selector.begin(), selector.end());
+        return Desc(0xC7, Concat({body, {0x00, 'j', 'p', 'n', 0x00}}));
+    };
+    zumtest::BinderScope binder(Country("BRA"));
+    const Bytes loop = Concat({bilingual, mono, captions});
+    TCDescriptorHash hash;
+    TCDescriptor(kZUMDefaultHandle).Parse(loop.data(), static_cast<int>(loop.size()), hash, 0x4E);
+    TCProgramData::TCProgCompData comps;
+    TCProgramCommonUtil(kZUMDefaultHandle).MakeComponent(hash, comps);
+    std::vector<TCProgramData::TTComp> audio, subtitles;
+    ASSERT_TRUE(comps.GetComponentList(TCProgramData::COMP_TYPE_AUDIO, audio));
+    ASSERT_EQ(audio.size(), 3u);
+    EXPECT_EQ(audio[0].language, ZumPackCode("jpn"));
+    EXPECT_EQ(audio[1].language, ZumPackCode("eng"));
+    for (int i : {0, 1}) {
+        EXPECT_EQ(audio[i].componentTag, 0x10);
+        EXPECT_EQ(audio[i].componentType, 0x03);
+        EXPECT_EQ(audio[i].qualityIndicator, 2u);
+        EXPECT_EQ(Utf16(audio[i].text.get(), audio[i].textLength), U("Duo"));
+    }
+    EXPECT_EQ(audio[2].componentTag, 0x11);
+    EXPECT_EQ(audio[2].text, nullptr);
+    ASSERT_TRUE(comps.GetComponentList(TCProgramData::COMP_TYPE_SUBTITLE, subtitles));
+    EXPECT_EQ(subtitles[0].componentTag, 0x30);
+    EXPECT_EQ(subtitles[0].componentType, 0);
+    EXPECT_EQ(subtitles[0].language, ZumPackCode("por"));
+
+    struct Case {
+        const char* country;
+        std::vector<Bytes> descriptors;
+        bool data;
+    } cases[] = {
+        {"BRA", {dataContent(12, 0x30, {0, 8}), dataContent(12, 0x40, {})}, true},
+        {"BRA", {dataContent(12, 0x30, {0, 8})}, false},
+        {"JPN", {dataContent(12, 0x40, {0x00, 0x08})}, true},
+        {"JPN", {dataContent(3, 0x40, {0, 8}), dataContent(7, 0x30, {0x00, 0x08})}, true},
+        {"JPN", {dataContent(12, 0x40, {0x00, 0xF7}), dataContent(11, 0x40, {0x00, 0x08})}, false}, // the first decides
+        {"JPN", {dataContent(11, 0x40, {0x08}), dataContent(7, 0x40, {0x00, 0x08})}, false},       // no second byte
+        {"JPN", {dataContent(3, 0x40, {0, 8})}, false},
+    };
+    for (const Case& c : cases) {
+        binder->countryCode = ZumPackCode(c.country);
+        Bytes data;
+        for (const Bytes& d : c.descriptors)
+            data.insert(data.end(), d.begin(), d.end());
+        TCDescriptorHash contents;
+        TCDescriptor(kZUMDefaultHandle).Parse(data.data(), static_cast<int>(data.size()), contents, 0x4E);
+        EXPECT_EQ(TCProgramCommonUtil(kZUMDefaultHandle).DataServiceAvailable(contents), c.data)
+            << "case " << (&c - cases);
+    }
+}

@@ -1,3 +1,4 @@
+#include <cstring>
 #include <fstream>
 #include <iterator>
 #include <list>
@@ -11,7 +12,11 @@
 #include <zum-platform/Dlog.h>
 
 #include "dvb/DVBEITParser.h"
+#include "core/Descriptor.h"
 #include "dvb/DescLinkage.h"
+#include "inspect/GuideView.h"
+#include "isdb/DescDigitalCopyControl.h"
+#include "program/ProgramCommonUtil.h"
 #include "program/ProgramDescriptorUtil.h"
 #include "support/LogCapture.h"
 #include "support/SectionBuilder.h"
@@ -289,6 +294,102 @@ TEST(ProgramDescriptorUtil, ComponentsAreMadeOnce)
         asserts += line.find("Failed: type > TCProgramData::COMP_TYPE_INVALID && type < "
                              "TCProgramData::COMP_TYPE_MAX") != std::string::npos;
     EXPECT_EQ(asserts, 3);
+}
+
+namespace {
+
+using Event = std::tuple<unsigned, unsigned, unsigned, unsigned>; // transport stream, network, service, event
+
+std::vector<Event> Events(const std::list<TCProgramData::TTEventInfo>& list)
+{
+    std::vector<Event> out;
+    for (const TCProgramData::TTEventInfo& e : list)
+        out.emplace_back(e.transportStreamId, e.originalNetworkId, e.serviceId, e.eventId);
+    return out;
+}
+
+} // namespace
+
+// Japan end to end: rating, video components, copy control of the stored loop, and, for a guide that keeps
+// them (the inspector's), the series and the event groups. The guide's filter alone keeps none of the ARIB event descriptors.
+TEST(ProgramDescriptorUtil, JapaneseEventsEndToEnd)
+{
+    zumtest::BinderScope binder(Country("JPN"));
+    const Bytes loop = Concat({Desc(0x50, {0x01, 0xB3, 0x00, 'j', 'p', 'n'}),
+                               Desc(0xC4, {0x02, 0x03, 0x10, 0x0F, 0xFF, 0xEF, 'j', 'p', 'n', 'e', 'n', 'g'}),
+                               Desc(0x55, {'J', 'P', 'N', 0x0D}), Desc(0xC1, {0x84}),
+                               Desc(0xD5, {0x01, 0x23, 0x55, 0xEA, 0x91, 0x00, 0x50, 0x0C, 0x0E, 'S', 'e', 'r'}),
+                               Desc(0xD6, {0x21, 0x02, 0x00, 0x03, 0x00}),
+                               Desc(0xD6, {0x12, 0x01, 0x00, 0x00, 0x11, 0x02, 0x00, 0x00, 0x12}),
+                               Desc(0xD6, {0x40, 0x00, 0x07, 0x00, 0x08, 0x00, 0x09, 0x00, 0x0A}),
+                               Desc(0xD9, {0x01, 0x01, 0x11, 0x00, 0x00})});
+    const std::vector<TCProgramData> records = StoreEvents(Eit(0x4E, 0x0400, {{0x0B01, loop}}));
+    ASSERT_EQ(records.size(), 1u);
+
+    TCProgramDescriptorUtil util(records[0]);
+    EXPECT_EQ(util.SizeOfDescriptor(), 2);
+    TSRatingInfo rating;
+    ASSERT_TRUE(util.GetRatingInfo(rating));
+    EXPECT_EQ(rating.ratingValue, 0x0D);
+    EXPECT_EQ(util.NumOfComponent(TCProgramData::COMP_TYPE_VIDEO), 1);
+    EXPECT_EQ(util.NumOfComponent(TCProgramData::COMP_TYPE_AUDIO), 0); // the audio component was not kept
+    TCProgramData::TTSeriesItem series;
+    TCProgramData::TTEventInfo relayed;
+    std::list<TCProgramData::TTEventInfo> list;
+    EXPECT_FALSE(util.GetSeriesInfo(series, kZUMDefaultHandle) || util.GetRelayedEventInfo(relayed) ||
+                 util.GetCommonEvent(list) || util.GetEventGroupInfoList(2, list));
+    EXPECT_EQ(util.NumOfComponentGroup(), 0);
+
+    // Copy control is read from the stored loop as the guide decodes it.
+    unsigned char* data = nullptr;
+    unsigned short length = 0;
+    int tableId = 0;
+    ASSERT_TRUE(records[0].GetDescriptorRawDataBuffer(data, length, tableId));
+    TCDescriptorHash all;
+    TCDescriptor(kZUMDefaultHandle).Parse(data, length, all, static_cast<unsigned char>(tableId));
+    const auto* copy = dynamic_cast<const TCDescDigitalCopyControl*>(all.Descriptor(0xC1, 0));
+    ASSERT_NE(copy, nullptr);
+    TCProgramCommonUtil common(kZUMDefaultHandle);
+    EDigitalCopyControl copyControl = EDIGITAL_COPY_FREE, audioOutput = EDIGITAL_COPY_FREE;
+    EXPECT_TRUE(common.GetDigitalCopyControl(EISDB_SERVICE_TYPE_DIGITAL_TV, copy->CopyControlType(),
+                                             copy->DigitalRecordingControlData(), copyControl));
+    EXPECT_TRUE(common.GetAudioOutputControl(copy->CopyControlType(), copy->DigitalRecordingControlData(), audioOutput));
+    EXPECT_EQ(copyControl, EDIGITAL_COPY_ONCE);
+    EXPECT_EQ(audioOutput, EDIGITAL_COPY_ONCE);
+    TCProgramData::TCProgCompData comps;
+    common.MakeComponent(all, comps);
+    EXPECT_EQ(comps.NumOfComponent(TCProgramData::COMP_TYPE_AUDIO), 2);
+
+    zuminspect::GuideUtil guide(records[0]);
+    ASSERT_TRUE(guide.GetSeriesInfo(series, kZUMDefaultHandle));
+    EXPECT_EQ(std::make_tuple(series.seriesId, series.repeatLabel, series.programPattern, series.expireDate,
+                              series.episodeNumber, series.lastEpisodeNumber),
+              std::make_tuple(0x0123, 5, 2, 60049 - 44244, 5, 12));
+    EXPECT_EQ(std::string(series.seriesName, series.seriesName + series.seriesNameLength),
+              std::string("\xFF\x33\xFF\x45\xFF\x52", 6)); // ARIB alphanumerics, full width
+    ASSERT_TRUE(guide.GetRelayedEventInfo(relayed));
+    EXPECT_EQ(Events({relayed}), (std::vector<Event>{{0x0441, 0x0001, 0x0200, 0x0300}}));
+    EXPECT_TRUE(guide.GetCommonEvent(list));
+    EXPECT_EQ(Events(list), (std::vector<Event>{{0x0441, 0x0001, 0x0100, 0x0011}, {0x0441, 0x0001, 0x0200, 0x0012}}));
+    list.clear();
+    EXPECT_TRUE(guide.GetEventGroupInfoList(4, list));
+    EXPECT_EQ(Events(list), (std::vector<Event>{{0x0008, 0x0007, 0x0009, 0x000A}}));
+    EXPECT_FALSE(guide.GetEventGroupInfoList(3, list = {}));
+    EXPECT_EQ(guide.NumOfComponentGroup(), 0); // component groups are never asked for under this filter
+
+    // Without a series name the title stands in, with its terminating zero, and no length.
+    TCProgramData titled = Record(Desc(0xD5, {0x00, 0x01, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00}), 0x4E);
+    const unsigned short title[] = {'T', 'V'};
+    titled.SetTitle(title, 2);
+    TCProgramData::TTSeriesItem untitled;
+    untitled.seriesNameLength = 9;
+    untitled.seriesName[4] = 0xFF;
+    ASSERT_TRUE(zuminspect::GuideUtil(titled).GetSeriesInfo(untitled, kZUMDefaultHandle));
+    unsigned short got[3];
+    std::memcpy(got, untitled.seriesName, sizeof got);
+    EXPECT_EQ(std::basic_string<unsigned short>(got, 3), (std::basic_string<unsigned short>{'T', 'V', 0}));
+    EXPECT_EQ(untitled.seriesNameLength, 0);
+    EXPECT_EQ(untitled.expireDate, 0);
 }
 
 // Real EITs of a DVB and an ISDB-Tb country, stored as a guide would: the rating is the entry of the

@@ -5,7 +5,12 @@
 
 #include <zum-platform/ProgramData.h>
 
+#include <zum-platform/ZUMHandle.h>
+
+#include "core/Descriptor.h"
 #include "dvb/DescLinkage.h"
+#include "isdb/DescDigitalCopyControl.h"
+#include "program/ProgramCommonUtil.h"
 #include "inspect/Text.h"
 #include "program/ProgramDescriptorUtil.h"
 
@@ -68,7 +73,69 @@ Json Links(TCProgramDescriptorUtil& util, Json& linkageType)
     return out;
 }
 
+Json EventInfo(const TCProgramData::TTEventInfo& e)
+{
+    return {{"transportStreamId", e.transportStreamId},
+            {"originalNetworkId", e.originalNetworkId},
+            {"serviceId", e.serviceId},
+            {"eventId", e.eventId}};
+}
+
+Json Series(TCProgramDescriptorUtil& util)
+{
+    TCProgramData::TTSeriesItem item;
+    if (!util.GetSeriesInfo(item, kZUMDefaultHandle))
+        return nullptr;
+    std::basic_string<unsigned short> name;
+    for (unsigned short i = 0; i + 1 < item.seriesNameLength; i += 2)
+        name.push_back(static_cast<unsigned short>((item.seriesName[i] << 8) | item.seriesName[i + 1]));
+    return {{"seriesId", item.seriesId},
+            {"repeatLabel", item.repeatLabel},
+            {"programPattern", item.programPattern},
+            {"expireDate", item.expireDate},
+            {"episodeNumber", item.episodeNumber},
+            {"lastEpisodeNumber", item.lastEpisodeNumber},
+            {"name", item.seriesNameLength ? Json(Utf16ToUtf8(name)) : Json(nullptr)}};
+}
+
+// The copy rules of the event's digital copy control descriptor, as the country's utility reads them.
+Json CopyControl(const TCDescriptorHash& loop)
+{
+    const auto* copy = dynamic_cast<const TCDescDigitalCopyControl*>(loop.Descriptor(0xC1, 0));
+    if (copy == nullptr)
+        return nullptr;
+    TCProgramCommonUtil common(kZUMDefaultHandle);
+    EDigitalCopyControl audio = EDIGITAL_COPY_FREE;
+    const bool ruled =
+        common.GetAudioOutputControl(copy->CopyControlType(), copy->DigitalRecordingControlData(), audio);
+    return {{"copyControlType", copy->CopyControlType()},
+            {"digitalRecordingControl", copy->DigitalRecordingControlData()},
+            {"audioOutput", ruled ? Json(static_cast<int>(audio)) : Json(nullptr)}};
+}
+
+// The event's loop decoded as the guide utility decodes it.
+void DecodeLoop(const TCProgramData& record, TCDescriptorHash& hash)
+{
+    unsigned char* data = nullptr;
+    unsigned short length = 0;
+    int tableId = -1;
+    if (record.GetDescriptorRawDataBuffer(data, length, tableId))
+        TCDescriptor(kZUMDefaultHandle).Parse(data, length, hash, static_cast<unsigned char>(tableId & 0xFF));
+}
+
 } // namespace
+
+GuideUtil::GuideUtil(const TCProgramData& record) : TCProgramDescriptorUtil(record)
+{
+    TCDescriptorHash all;
+    DecodeLoop(record, all);
+    for (int i = 0; i < all.NumOfDescriptors(); ++i) {
+        const TCBaseDesc* desc = all.DescriptorByIndex(static_cast<unsigned int>(i));
+        // Series, event group and component group.
+        if (desc->Tag() == 0xD5 || desc->Tag() == 0xD6 || desc->Tag() == 0xD9)
+            m_descriptors.Add(desc->Fork());
+    }
+}
 
 Json GuideAnswers(const GuideEvent& event)
 {
@@ -85,7 +152,7 @@ Json GuideAnswers(const GuideEvent& event)
     if (event.loop != nullptr && !event.loop->empty())
         record.SetDescriptorRawData(event.loop->data(), static_cast<unsigned short>(event.loop->size()),
                                     event.tableId);
-    TCProgramDescriptorUtil util(record);
+    GuideUtil util(record);
 
     Json out = {{"components", Components(util)},
                 {"audioDescription", util.IsADAvailable()},
@@ -110,6 +177,19 @@ Json GuideAnswers(const GuideEvent& event)
     Json linkageType;
     out["links"] = Links(util, linkageType);
     out["linkageType"] = linkageType;
+    out["series"] = Series(util);
+    TCProgramData::TTEventInfo relayed;
+    out["relayedEvent"] = util.GetRelayedEventInfo(relayed) ? EventInfo(relayed) : Json(nullptr);
+    std::list<TCProgramData::TTEventInfo> common;
+    util.GetCommonEvent(common);
+    out["commonEvents"] = Json::array();
+    for (const TCProgramData::TTEventInfo& e : common)
+        out["commonEvents"].push_back(EventInfo(e));
+    TCDescriptorHash loop;
+    DecodeLoop(record, loop);
+    const Json copy = CopyControl(loop);
+    if (!copy.is_null())
+        out["copyControl"] = copy;
     return out;
 }
 
