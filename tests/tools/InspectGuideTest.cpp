@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include "inspect/Renderers.h"
 #include "inspect/Session.h"
@@ -51,4 +54,41 @@ TEST(InspectGuide, EventsCarryTheGuideAnswers)
                   std::string::npos)
             << tree.str();
     }
+}
+
+// A Japanese BS capture: the guide finds each event's common event group and the copy rules.
+TEST(InspectGuide, JapaneseCaptureAnswers)
+{
+    const std::string path = std::string(ZUM_CAPTURES_DIR) + "/tsduck_tsduck-test__test-101.ts";
+    std::ifstream in(path, std::ios::binary);
+    if (!in)
+        GTEST_SKIP() << "no capture at " << path;
+    const std::vector<uint8_t> ts((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    zuminspect::InspectSettings settings;
+    settings.country = "JPN";
+    settings.guide = true;
+    zumtest::BinderScope binder(zuminspect::BinderSettingsFor(settings));
+    zuminspect::Session session(zuminspect::InputKind::TransportStream, settings);
+    session.Feed(ts.data(), ts.size());
+    session.Finish();
+    const Json model = session.Model();
+    int events = 0, common = 0, ruled = 0;
+    for (const Json& service : model["eit"])
+        for (const Json& event : service["events"]) {
+            ++events;
+            const Json& guide = event["guide"];
+            for (const Json& other : guide["commonEvents"]) {
+                ++common;
+                EXPECT_EQ(other["eventId"], event["eventId"]);
+                EXPECT_EQ(other["transportStreamId"], service["transportStreamId"]); // the record's network
+            }
+            if (guide.contains("copyControl")) {
+                ++ruled;
+                EXPECT_TRUE(guide["copyControl"]["audioOutput"].is_number());
+            }
+            EXPECT_EQ(guide["components"]["video"].size(), 1u);
+        }
+    EXPECT_GT(events, 0);
+    EXPECT_GT(common, 0);
+    EXPECT_GT(ruled, 0);
 }
