@@ -1,5 +1,6 @@
 #include <memory>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -162,102 +163,73 @@ TEST(ProgramCommonUtil, DigitalRatingByCountryAndRegion)
     EXPECT_TRUE(log.Contains("Failed: pBinder"));
 }
 
-// ISDB components from the component descriptors of a loop: a tag of no type adds nothing and the
-// walk goes on; the text is converted in the component's language group.
-TEST(ProgramCommonUtil, ComponentsFromComponentDescriptors)
+TCDescriptorHash Loop(const Bytes& loop)
 {
-    zumtest::BinderScope binder(Country("BRA"));
-    const Bytes loop = Concat({Desc(0x50, {0x01, 0xB3, 0x00, 'p', 'o', 'r', 0x15, 'H', 'D'}),
-                               Desc(0x50, {0x01, 0x03, 0x80, 'e', 'n', 'g', 'x'}),
-                               Desc(0x50, {0x02, 0x03, 0x10, 'E', 'N', 'G'}),
-                               Desc(0x4D, {'p', 'o', 'r', 0, 0})});
     TCDescriptorHash hash;
     TCDescriptor(kZUMDefaultHandle).Parse(loop.data(), static_cast<int>(loop.size()), hash, 0x4E);
-    ASSERT_EQ(hash.NumOfDescriptors(0x50), 3);
+    return hash;
+}
+
+// ISDB components: a component tag of no type adds nothing and the walk goes on; a bilingual audio stream gives
+// two entries with one text; a data content gives its entry component with type 0. Texts are converted in the
+// component's language group.
+TEST(ProgramCommonUtil, ComponentsOfIsdbDescriptors)
+{
+    zumtest::BinderScope binder(Country("BRA"));
+    const TCDescriptorHash hash = Loop(Concat({Desc(0x50, {0x01, 0xB3, 0x00, 'p', 'o', 'r', 0x15, 'H', 'D'}),
+                                               Desc(0x50, {0x01, 0x03, 0x80, 'e', 'n', 'g', 'x'}),
+                                               Desc(0xC4, {0x02, 0x03, 0x10, 0x0F, 0xFF, 0xEF, 'j', 'p', 'n', 'E', 'N',
+                                                           'G', 0x15, 'D', 'u', 'o'}),
+                                               Desc(0xC4, {0x02, 0x01, 0x11, 0x0F, 0xFF, 0x6F, 'p', 'o', 'r'}),
+                                               Desc(0xC7, {0x00, 0x08, 0x30, 0x00, 0x00, 'p', 'o', 'r', 0x00})}));
     TCProgramData::TCProgCompData comps;
-    TCProgramCommonUtil util(kZUMDefaultHandle);
-    EXPECT_TRUE(util.MakeComponent(hash, comps));
-    const int counts[] = {1, 1, 0, 0};
-    for (int type = 0; type < 4; ++type)
-        EXPECT_EQ(comps.NumOfComponent(static_cast<TCProgramData::EComponentType>(type)), counts[type]) << type;
-    TCProgramData::TTComp video, audio;
-    ASSERT_TRUE(comps.GetComponent(TCProgramData::COMP_TYPE_VIDEO, 0, video));
-    EXPECT_EQ(video.componentTag, 0x00);
-    EXPECT_EQ(video.componentType, 0xB3);
-    EXPECT_EQ(video.language, ZumPackCode("por"));
-    EXPECT_EQ(video.qualityIndicator, 0u);
-    EXPECT_EQ(Utf16(video.text.get(), video.textLength), U("HD"));
-    ASSERT_TRUE(comps.GetComponent(TCProgramData::COMP_TYPE_AUDIO, 0, audio));
-    EXPECT_EQ(audio.componentTag, 0x10);
-    EXPECT_EQ(audio.language, ZumPackCode("eng")); // upper case on air, the group key here
-    EXPECT_EQ(audio.text, nullptr);
-    EXPECT_EQ(audio.textLength, 0);
+    EXPECT_TRUE(TCProgramCommonUtil(kZUMDefaultHandle).MakeComponent(hash, comps));
+    // Type, tag, component type, language, quality, text.
+    using Comp = std::tuple<int, int, int, std::string, unsigned, std::basic_string<unsigned short>>;
+    std::vector<Comp> got;
+    for (int type = 0; type < 4; ++type) {
+        std::vector<TCProgramData::TTComp> list;
+        comps.GetComponentList(static_cast<TCProgramData::EComponentType>(type), list);
+        for (const TCProgramData::TTComp& c : list)
+            got.emplace_back(type, c.componentTag, c.componentType,
+                             std::string{char(c.language >> 16), char(c.language >> 8), char(c.language)},
+                             c.qualityIndicator, Utf16(c.text.get(), c.textLength));
+    }
+    EXPECT_EQ(got, (std::vector<Comp>{{0, 0x00, 0xB3, "por", 0, U("HD")},
+                                      {1, 0x10, 0x03, "jpn", 2, U("Duo")},
+                                      {1, 0x10, 0x03, "eng", 2, U("Duo")},
+                                      {1, 0x11, 0x01, "por", 2, U("")},
+                                      {2, 0x30, 0x00, "por", 0, U("")}}));
 
     unsigned char in[] = {0x15, 'a', 'b', 'c'}, out[4];
     unsigned short outLength = sizeof out;
-    EXPECT_FALSE(util.ConvertToUnicode(in, sizeof in, out, outLength, ZumPackCode("eng")));
+    EXPECT_FALSE(TCProgramCommonUtil(kZUMDefaultHandle).ConvertToUnicode(in, sizeof in, out, outLength, 0));
     EXPECT_EQ(Utf16(out, outLength), U("ab"));
 }
 
-// ARIB audio and data content components: a bilingual stream gives two audio entries with one text, a data
-// content its entry component with type 0; a data service is found by its entry component or, in Japan, by
-// the selector of the first data coding that has one.
-TEST(ProgramCommonUtil, AudioAndDataContentComponents)
+// A data service: by its entry component, or in Japan by the selector of the first data coding that has one.
+TEST(ProgramCommonUtil, DataServiceAvailable)
 {
-    const Bytes bilingual = Desc(0xC4, {0x02, 0x03, 0x10, 0x0F, 0xFF, 0xEF, 'j', 'p', 'n', 'E', 'N', 'G', 0x15, 'D', 'u', 'o'});
-    const Bytes mono = Desc(0xC4, {0x02, 0x01, 0x11, 0x0F, 0xFF, 0x6F, 'j', 'p', 'n'});
-    const Bytes captions = Desc(0xC7, {0x00, 0x08, 0x30, 0x00, 0x00, 'p', 'o', 'r', 0x00});
-    auto dataContent = [](unsigned id, unsigned entry, const Bytes& selector) {
-        Bytes body{static_cast<uint8_t>(id >> 8), static_cast<uint8_t>(id), static_cast<uint8_t>(entry),
-                   static_cast<uint8_t>(selector.size())};
-        body.insert(body.end(), selector.begin(), selector.end());
-        return Desc(0xC7, Concat({body, {0x00, 'j', 'p', 'n', 0x00}}));
+    auto content = [](unsigned id, unsigned entry, const Bytes& selector) {
+        return Desc(0xC7, Concat({{0x00, static_cast<uint8_t>(id), static_cast<uint8_t>(entry),
+                                   static_cast<uint8_t>(selector.size())},
+                                  selector, {0x00, 'j', 'p', 'n', 0x00}}));
     };
-    zumtest::BinderScope binder(Country("BRA"));
-    const Bytes loop = Concat({bilingual, mono, captions});
-    TCDescriptorHash hash;
-    TCDescriptor(kZUMDefaultHandle).Parse(loop.data(), static_cast<int>(loop.size()), hash, 0x4E);
-    TCProgramData::TCProgCompData comps;
-    TCProgramCommonUtil(kZUMDefaultHandle).MakeComponent(hash, comps);
-    std::vector<TCProgramData::TTComp> audio, subtitles;
-    ASSERT_TRUE(comps.GetComponentList(TCProgramData::COMP_TYPE_AUDIO, audio));
-    ASSERT_EQ(audio.size(), 3u);
-    EXPECT_EQ(audio[0].language, ZumPackCode("jpn"));
-    EXPECT_EQ(audio[1].language, ZumPackCode("eng"));
-    for (int i : {0, 1}) {
-        EXPECT_EQ(audio[i].componentTag, 0x10);
-        EXPECT_EQ(audio[i].componentType, 0x03);
-        EXPECT_EQ(audio[i].qualityIndicator, 2u);
-        EXPECT_EQ(Utf16(audio[i].text.get(), audio[i].textLength), U("Duo"));
-    }
-    EXPECT_EQ(audio[2].componentTag, 0x11);
-    EXPECT_EQ(audio[2].text, nullptr);
-    ASSERT_TRUE(comps.GetComponentList(TCProgramData::COMP_TYPE_SUBTITLE, subtitles));
-    EXPECT_EQ(subtitles[0].componentTag, 0x30);
-    EXPECT_EQ(subtitles[0].componentType, 0);
-    EXPECT_EQ(subtitles[0].language, ZumPackCode("por"));
-
-    struct Case {
+    const struct {
         const char* country;
-        std::vector<Bytes> descriptors;
+        Bytes loop;
         bool data;
     } cases[] = {
-        {"BRA", {dataContent(12, 0x30, {0, 8}), dataContent(12, 0x40, {})}, true},
-        {"BRA", {dataContent(12, 0x30, {0, 8})}, false},
-        {"JPN", {dataContent(12, 0x40, {0x00, 0x08})}, true},
-        {"JPN", {dataContent(3, 0x40, {0, 8}), dataContent(7, 0x30, {0x00, 0x08})}, true},
-        {"JPN", {dataContent(12, 0x40, {0x00, 0xF7}), dataContent(11, 0x40, {0x00, 0x08})}, false}, // the first decides
-        {"JPN", {dataContent(11, 0x40, {0x08}), dataContent(7, 0x40, {0x00, 0x08})}, false},       // no second byte
-        {"JPN", {dataContent(3, 0x40, {0, 8})}, false},
+        {"BRA", Concat({content(12, 0x30, {0, 8}), content(12, 0x40, {})}), true},
+        {"BRA", content(12, 0x30, {0, 8}), false},
+        {"JPN", Concat({content(3, 0x40, {0, 8}), content(7, 0x30, {0x00, 0x08})}), true},
+        {"JPN", Concat({content(12, 0x40, {0x00, 0xF7}), content(11, 0x40, {0x00, 0x08})}), false}, // the first decides
+        {"JPN", Concat({content(11, 0x40, {0x08}), content(7, 0x40, {0x00, 0x08})}), false},       // no second byte
+        {"JPN", content(3, 0x40, {0, 8}), false},
     };
-    for (const Case& c : cases) {
-        binder->countryCode = ZumPackCode(c.country);
-        Bytes data;
-        for (const Bytes& d : c.descriptors)
-            data.insert(data.end(), d.begin(), d.end());
-        TCDescriptorHash contents;
-        TCDescriptor(kZUMDefaultHandle).Parse(data.data(), static_cast<int>(data.size()), contents, 0x4E);
-        EXPECT_EQ(TCProgramCommonUtil(kZUMDefaultHandle).DataServiceAvailable(contents), c.data)
+    for (const auto& c : cases) {
+        zumtest::BinderScope binder(Country(c.country));
+        EXPECT_EQ(TCProgramCommonUtil(kZUMDefaultHandle).DataServiceAvailable(Loop(c.loop)), c.data)
             << "case " << (&c - cases);
     }
 }

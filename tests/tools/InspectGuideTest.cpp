@@ -25,70 +25,72 @@ TEST(InspectGuide, EventsCarryTheGuideAnswers)
     eit.U16(0x0A01).Raw({0xEA, 0x91, 0x20, 0x00, 0x00, 0x00, 0x30, 0x00}).Begin16(12, 0x8000).Raw(loop).End();
     const zumtest::Bytes section = eit.Build();
 
-    for (bool guide : {false, true}) {
-        SCOPED_TRACE(guide);
-        zumtest::BinderScope binder;
-        zuminspect::InspectSettings settings;
-        settings.country = "GBR";
-        settings.guide = guide;
-        zuminspect::Session session(zuminspect::InputKind::Sections, settings);
-        session.Feed(section.data(), section.size());
-        session.Finish();
-        const Json model = session.Model();
-        const Json& event = model["eit"].at(0)["events"].at(0);
-        ASSERT_EQ(event.contains("guide"), guide);
-        if (!guide)
-            continue;
-        const Json& answers = event["guide"];
-        EXPECT_EQ(answers["rating"], Json::parse(R"({"type": 8, "value": 8, "extra": 0})"));
-        EXPECT_EQ(answers["hdSimulcast"], Json::parse(R"({"transportStreamId": 2, "originalNetworkId": 3,
-                                                          "serviceId": 4, "eventId": 5, "simulcast": true})"));
-        EXPECT_EQ(answers["linkageType"], 13);
-        ASSERT_EQ(answers["links"].size(), 1u);
-        EXPECT_EQ(answers["links"][0]["targetIdType"], nullptr);
-        EXPECT_TRUE(answers["hd"].get<bool>());
-        EXPECT_EQ(answers["components"]["video"].size(), 0u); // no ISDB country
-        std::ostringstream tree;
-        zuminspect::RenderTree(model, tree);
-        EXPECT_NE(tree.str().find("    guide:  audioDescription: no, subtitles: no, signLanguage: no, hd: yes"),
-                  std::string::npos)
-            << tree.str();
-    }
-}
-
-// A Japanese BS capture: the guide finds each event's common event group and the copy rules.
-TEST(InspectGuide, JapaneseCaptureAnswers)
-{
-    const std::string path = std::string(ZUM_CAPTURES_DIR) + "/tsduck_tsduck-test__test-101.ts";
-    std::ifstream in(path, std::ios::binary);
-    if (!in)
-        GTEST_SKIP() << "no capture at " << path;
-    const std::vector<uint8_t> ts((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    zumtest::BinderScope binder;
     zuminspect::InspectSettings settings;
-    settings.country = "JPN";
+    settings.country = "GBR";
     settings.guide = true;
-    zumtest::BinderScope binder(zuminspect::BinderSettingsFor(settings));
-    zuminspect::Session session(zuminspect::InputKind::TransportStream, settings);
-    session.Feed(ts.data(), ts.size());
+    zuminspect::Session session(zuminspect::InputKind::Sections, settings);
+    session.Feed(section.data(), section.size());
     session.Finish();
     const Json model = session.Model();
-    int events = 0, common = 0, ruled = 0;
-    for (const Json& service : model["eit"])
-        for (const Json& event : service["events"]) {
-            ++events;
-            const Json& guide = event["guide"];
-            for (const Json& other : guide["commonEvents"]) {
-                ++common;
-                EXPECT_EQ(other["eventId"], event["eventId"]);
-                EXPECT_EQ(other["transportStreamId"], service["transportStreamId"]); // the record's network
+    const Json& answers = model["eit"].at(0)["events"].at(0)["guide"];
+    EXPECT_EQ(answers["rating"], Json::parse(R"({"type": 8, "value": 8, "extra": 0})"));
+    EXPECT_EQ(answers["hdSimulcast"]["eventId"], 5);
+    EXPECT_EQ(answers["linkageType"], 13);
+    EXPECT_EQ(answers["links"].size(), 1u);
+    std::ostringstream tree;
+    zuminspect::RenderTree(model, tree);
+    EXPECT_NE(tree.str().find("    guide:  audioDescription: no, subtitles: no, signLanguage: no, hd: yes"),
+              std::string::npos)
+        << tree.str();
+}
+
+// Real EITs of a DVB and two ISDB countries: the rating is the entry of the receiver's country as the event's
+// descriptors show it; ISDB events list their video component; Japanese events their common event group and
+// copy rules.
+TEST(InspectGuide, CapturesAnswer)
+{
+    const struct {
+        const char* file;
+        const char* country;
+    } captures[] = {{"tsduck_tsduck-test__test-038.bin", "CZE"},
+                    {"tsduck_tsduck-test__ref_test-170.tstables.bin", "BRA"},
+                    {"tsduck_tsduck-test__test-101.ts", "JPN"}};
+    const std::string dir = ZUM_CAPTURES_DIR;
+    if (!std::ifstream(dir + "/" + captures[0].file))
+        GTEST_SKIP() << "no captures at " << dir;
+    for (const auto& capture : captures) {
+        SCOPED_TRACE(capture.file);
+        std::ifstream in(dir + "/" + capture.file, std::ios::binary);
+        const std::vector<uint8_t> input((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+        zuminspect::InspectSettings settings;
+        settings.country = capture.country;
+        settings.guide = true;
+        zumtest::BinderScope binder(zuminspect::BinderSettingsFor(settings));
+        zuminspect::Session session(zuminspect::DetectInputKind(input.data(), input.size()), settings);
+        session.Feed(input.data(), input.size());
+        session.Finish();
+        const Json model = session.Model();
+        const bool isdb = capture.country[0] != 'C', japan = capture.country[0] == 'J';
+        int rated = 0, common = 0, ruled = 0;
+        for (const Json& service : model["eit"])
+            for (const Json& event : service["events"]) {
+                const Json& guide = event["guide"];
+                for (const Json& d : event["descriptors"])
+                    for (const Json& r : d["tag"] == "0x55" ? d["fields"]["ratings"] : Json::array())
+                        if (r["country"] == capture.country) {
+                            ++rated;
+                            EXPECT_EQ(guide["rating"]["value"], r["rating"]);
+                        }
+                for (const Json& other : guide["commonEvents"]) {
+                    ++common;
+                    EXPECT_EQ(other["eventId"], event["eventId"]);
+                }
+                ruled += guide.contains("copyControl") && guide["copyControl"]["audioOutput"].is_number();
+                EXPECT_EQ(guide["components"]["video"].size(), isdb ? 1u : 0u);
             }
-            if (guide.contains("copyControl")) {
-                ++ruled;
-                EXPECT_TRUE(guide["copyControl"]["audioOutput"].is_number());
-            }
-            EXPECT_EQ(guide["components"]["video"].size(), 1u);
-        }
-    EXPECT_GT(events, 0);
-    EXPECT_GT(common, 0);
-    EXPECT_GT(ruled, 0);
+        EXPECT_EQ(rated > 0, !japan);
+        EXPECT_EQ(common > 0, japan);
+        EXPECT_EQ(ruled > 0, japan);
+    }
 }
