@@ -74,7 +74,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     TCDescriptorHash hash;
     TCDescriptor(ZUMHandle()).Parse(loop.data(), static_cast<int>(loop.size()), hash,
                                     static_cast<unsigned char>(tableId));
-    TCProgramCommonUtil common(ZUMHandle());
+    TCProgramCommonUtil common{ZUMHandle()};
     TCProgramData::TCProgCompData comps;
     common.MakeComponent(hash, comps);
     common.DataServiceAvailable(hash);
