@@ -3,12 +3,16 @@
 // version change; the parser drops the old table and decodes the new one.
 
 #include <cstring>
+#include <functional>
 #include <memory>
 #include <optional>
 
 #include <zum-platform/PlatformConfig.h>
 
+#include <zum-parser/atsc/AEITParser.h>
 #include <zum-parser/atsc/MGTParser.h>
+#include <zum-parser/atsc/SVCTParser.h>
+#include <zum-parser/atsc/SVCTParserVCM.h>
 #include <zum-parser/atsc/VCTParser.h>
 #include <zum-parser/core/Descriptor.h>
 #include <zum-parser/core/DescriptorHash.h>
@@ -16,6 +20,8 @@
 #include <zum-parser/dvb/DVBEITParser.h>
 #include <zum-parser/dvb/DVBNITParser.h>
 #include <zum-parser/dvb/DVBSDTParser.h>
+#include <zum-parser/dvb/DVBSGTParser.h>
+#include <zum-parser/dvb/DVBTKGSParser.h>
 #include <zum-parser/psi/PATParser.h>
 #include <zum-parser/psi/PMTParser.h>
 
@@ -144,21 +150,26 @@ void Sdt(benchmark::State& state)
     RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
 }
 
-// A receiver's country for one benchmark: the PSIP tables are read under an
-// ATSC country, which picks the PSIP descriptor factory; the ISDB EIT under
-// Japan, which picks the ARIB one.
-class ReceiverCountry {
+// The receiver settings a family is read under, restored afterwards.
+class BinderAs {
 public:
-    explicit ReceiverCountry(const char* code) : m_saved(zum_platform::Binder().countryCode)
+    explicit BinderAs(const std::function<void(zum_platform::BinderSettings&)>& set) : m_saved(zum_platform::Binder())
     {
-        zum_platform::Binder().countryCode = ZumPackCode(code);
+        set(zum_platform::Binder());
     }
-    ~ReceiverCountry() { zum_platform::Binder().countryCode = m_saved; }
-    ReceiverCountry(const ReceiverCountry&) = delete;
-    ReceiverCountry& operator=(const ReceiverCountry&) = delete;
+    ~BinderAs() { zum_platform::SetBinder(m_saved); }
+    BinderAs(const BinderAs&) = delete;
+    BinderAs& operator=(const BinderAs&) = delete;
 
 private:
-    ECountryCode m_saved;
+    zum_platform::BinderSettings m_saved;
+};
+
+// The PSIP and out-of-band tables are read as a North American receiver reads
+// them: under an ATSC country, which picks the PSIP descriptor factory.
+class AtscCountry : public BinderAs {
+public:
+    AtscCountry() : BinderAs([](zum_platform::BinderSettings& b) { b.countryCode = ZumPackCode("USA"); }) {}
 };
 
 // The EIT road of a receiver: the parser says which section is new, the
@@ -214,9 +225,10 @@ private:
 
 void Eit(benchmark::State& state, Family family, bool decodeLoops)
 {
-    std::optional<ReceiverCountry> japan;
+    // The ISDB schedule is read as a Japanese receiver reads it, by the ARIB factories.
+    std::optional<BinderAs> japan;
     if (family == Family::EitIsdb)
-        japan.emplace("JPN");
+        japan.emplace([](zum_platform::BinderSettings& b) { b.countryCode = ZumPackCode("JPN"); });
     const Table& table = TableOf(family);
     EitReader reader(table.tableId, decodeLoops);
     const int events = family == Family::EitPf ? 2 : 2 * kEitScheduleEventsPerSection;
@@ -248,7 +260,7 @@ void DescriptorLoop(benchmark::State& state)
 
 void Mgt(benchmark::State& state)
 {
-    const ReceiverCountry country("USA");
+    const AtscCountry country;
     const Table& table = TableOf(Family::Mgt);
     TCMGTParser parser(kHandle);
     parser.Initialize();
@@ -260,7 +272,7 @@ void Mgt(benchmark::State& state)
 
 void Tvct(benchmark::State& state)
 {
-    const ReceiverCountry country("USA");
+    const AtscCountry country;
     const Table& table = TableOf(Family::Tvct);
     TCTVCTParser parser(kHandle);
     parser.Initialize();
@@ -269,6 +281,71 @@ void Tvct(benchmark::State& state)
         return state.SkipWithError("TVCT not decoded");
     // Per pass: a version change, eight channels, each with its long name read
     // into a multiple string structure and its service location.
+    RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
+}
+
+void Svct(benchmark::State& state)
+{
+    const AtscCountry country;
+    const Table& table = TableOf(Family::Svct);
+    TCSVCTParser parser(kHandle);
+    auto pass = [&](uint64_t n) {
+        // No version to change: a receiver re-acquiring the channel map starts afresh.
+        parser.Initialize();
+        Feed(parser, table, n);
+        return parser.VCM() ? parser.VCM()->VCSize() : 0;
+    };
+    if (pass(0) != kSvctChannels || pass(1) != kSvctChannels)
+        return state.SkipWithError("SVCT not decoded");
+    // Per pass: 24 virtual channel records, each with its extended channel name.
+    RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(pass(n)); });
+}
+
+void Aeit(benchmark::State& state)
+{
+    const AtscCountry country;
+    const Table& table = TableOf(Family::Aeit);
+    TCAEITParser parser(kHandle);
+    parser.Initialize();
+    const auto events = [&] {
+        const TCAEITParserTag* tag = parser.AEITParserTag(0);
+        const TCAEITSourceMap* sources = tag ? tag->AEITParserSourceList(1) : nullptr;
+        return sources && !sources->empty() ? sources->begin()->second->SizeOfAEITParserEvent() : 0;
+    };
+    if (!Prime(parser, table) || events() != kAeitEventsPerSource)
+        return state.SkipWithError("AEIT not decoded");
+    // Per pass: a version change, 48 events of 8 sources, each keeping its
+    // title and descriptor loop.
+    RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
+}
+
+void Sgt(benchmark::State& state)
+{
+    const BinderAs astra([](zum_platform::BinderSettings& b) { b.privateDataSpecifier = 1; });
+    const Table& table = TableOf(Family::Sgt);
+    TCDVBSGTParser parser(kHandle);
+    parser.Initialize();
+    if (!Prime(parser, table) || !parser.Instance(0x0007) || parser.Instance(0x0007)->NumOfServices() != kSgtServices)
+        return state.SkipWithError("SGT not decoded");
+    // Per pass: a version change of one list, 60 services with channel numbers and flags.
+    RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
+}
+
+void Tkgs(benchmark::State& state)
+{
+    const BinderAs turkey([](zum_platform::BinderSettings& b) {
+        b.countryCode = ZumPackCode("TUR");
+        b.country = ECOUNTRY_TURKEY;
+        b.privateDataSpecifier = 0x011FFFFF;
+    });
+    const Table& table = TableOf(Family::Tkgs);
+    TCDVBTKGSParser parser(kHandle);
+    parser.Initialize();
+    if (!Prime(parser, table) || parser.NumOfServiceLists() != static_cast<unsigned>(kTkgsLists) ||
+        parser.ServiceKeys().size() != static_cast<size_t>(kTkgsServices))
+        return state.SkipWithError("TKGS not decoded");
+    // Per pass: a version change; the stream joined from its sections, four
+    // transports with their SDT and six PMTs each fed to inner parsers, two lists.
     RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
 }
 
@@ -292,6 +369,10 @@ void RegisterZum(Family family)
     case Family::DescriptorLoop: Register(family, kZum, DescriptorLoop); break;
     case Family::Mgt: Register(family, kZum, Mgt); break;
     case Family::Tvct: Register(family, kZum, Tvct); break;
+    case Family::Svct: Register(family, kZum, Svct); break;
+    case Family::Aeit: Register(family, kZum, Aeit); break;
+    case Family::Sgt: Register(family, kZum, Sgt); break;
+    case Family::Tkgs: Register(family, kZum, Tkgs); break;
     }
 }
 
