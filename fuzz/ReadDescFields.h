@@ -31,6 +31,7 @@
 #include "operators/DescTKGSComponent.h"
 #include "ReadFSatFields.h"
 #include "ReadIsdbEventFields.h"
+#include "ReadIsdbNetFields.h"
 
 namespace fuzzfields {
 
@@ -216,6 +217,7 @@ inline void Read(TCBaseDesc* desc)
         Take(d->Flag() + d->Found());
     fsatfields::Read(desc);
     isdbeventfields::ReadEventFamily(desc);
+    isdbnetfields::Read(desc);
 }
 
 } // namespace fuzzfields

@@ -23,6 +23,9 @@
 #include "../isdb/DescDigitalCopyControl.h"
 #include "../isdb/DescEventGroup.h"
 #include "../isdb/DescScheduling.h"
+#include "../isdb/DescARIBTerrestrialDeliverySystem.h"
+#include "../isdb/DescDownloadContent.h"
+#include "../isdb/DescExtendedBroadcaster.h"
 #include "../operators/DescAstraServiceListName.h"
 #include "../operators/DescCIPlusService.h"
 #include "../operators/DescDSmartIdentifier.h"
@@ -367,6 +370,10 @@ TCBaseDesc* TCDescConfISDB::t_ProcessPrivateDesc(int tag, unsigned int /*pds*/)
     switch (tag) {
     case 0xC4: return new TCDescAudioComponent();
     case 0xC7: return new TCDescDataContent();
+    case 0xCD: return new TCDescTSInformation();
+    case 0xCF: return new TCDescLogoTransmission();
+    case 0xFA: return new TCDescARIBTerrestrialDeliverySystem();
+    case 0xFB: return new TCDescPartialReception();
     default: return new TCDescDefault(tag);
     }
 }
@@ -382,6 +389,9 @@ TCBaseDesc* TCDescConfJPN::NewDescriptor(int tag, const unsigned char* data, uns
     case 0xD9: return new TCDescComponentGroup();
     case 0xDB: return new TCDescBoardInformation();
     case 0xDE: return new TCDescContentAvailability();
+    case 0xC9: return new TCDescDownloadContent();
+    case 0xCE: return new TCDescExtendedBroadcaster();
+    case 0xDA: return new TCDescSIPrimeTS();
     default: return TCDescConfISDB::NewDescriptor(tag, data, pds);
     }
 }

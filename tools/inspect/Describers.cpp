@@ -49,6 +49,7 @@
 #include "inspect/AitView.h"
 #include "inspect/AudioView.h"
 #include "inspect/EwsView.h"
+#include "inspect/IsdbNetView.h"
 #include "av/DescAC4.h"
 #include "av/DescAPD.h"
 #include "inspect/TkgsView.h"
@@ -633,6 +634,8 @@ Json DescribeDescriptor(const TCBaseDesc& desc, const TextDecoder& text)
         out["fields"] = freesat;
     else if (Json isdb = DescribeIsdbEventDescriptor(desc, text); !isdb.is_null())
         out["fields"] = isdb;
+    else if (Json isdbNet = DescribeIsdbNetDescriptor(desc, text); !isdbNet.is_null())
+        out["fields"] = isdbNet;
     else
         out["raw"] = RawHex(desc);
     return out;
