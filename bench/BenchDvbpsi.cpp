@@ -216,7 +216,7 @@ void Quiet(dvbpsi_t*, const dvbpsi_msg_level_t, const char*) {}
 // each section twice.
 int Carousels(Family family)
 {
-    return family == Family::EitPf || family == Family::EitSchedule ? 2 : 1;
+    return family == Family::EitPf || family == Family::EitSchedule || family == Family::EitIsdb ? 2 : 1;
 }
 
 // One decoder with its packets: pass n pushes the packets of version n & 1.

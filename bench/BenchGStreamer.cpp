@@ -215,6 +215,7 @@ int Pass(Family family, const Table& table, uint64_t n)
             break;
         case Family::EitPf:
         case Family::EitSchedule:
+        case Family::EitIsdb:
             if (const GstMpegtsEIT* eit = gst_mpegts_section_get_eit(section)) {
                 for (guint i = 0; i < eit->events->len; ++i)
                     count += ParseDescriptors(

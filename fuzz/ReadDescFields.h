@@ -30,6 +30,7 @@
 #include "ReadOperatorFields.h"
 #include "operators/DescTKGSComponent.h"
 #include "ReadFSatFields.h"
+#include "ReadIsdbEventFields.h"
 #include "ReadIsdbNetFields.h"
 
 namespace fuzzfields {
@@ -218,6 +219,7 @@ inline void Read(TCBaseDesc* desc)
     if (auto* d = dynamic_cast<TCDescTKGSComponent*>(desc))
         Take(d->Flag() + d->Found());
     fsatfields::Read(desc);
+    isdbeventfields::ReadEventFamily(desc);
     isdbnetfields::Read(desc);
 }
 

@@ -39,6 +39,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     settings.countryCode = ZumPackCode(kCountries[data[0] % (sizeof kCountries / sizeof kCountries[0])]);
     settings.country = static_cast<ECountry>(data[0] & 0x1F);
     settings.operatorId = (data[0] & 0x80) ? 113 : ((data[0] & 0x40) ? 86 : ((data[2] & 0x40) ? 70 : 68));
+    // AirTel's rows under 0x00006001.
+    if (settings.operatorId == 68 && (data[1] & 0x80))
+        settings.operatorId = 90;
     settings.privateDataSpecifier = kSpecifiers[data[2] % (sizeof kSpecifiers / sizeof kSpecifiers[0])];
     const bool refuseOdd = data[2] & 0x80;
     settings.acceptSpecifier = [refuseOdd](unsigned int pds) { return !refuseOdd || (pds & 1) == 0; };

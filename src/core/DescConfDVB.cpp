@@ -16,6 +16,13 @@
 #include "../dvb/DescLinkage.h"
 #include "../dvb/DescLocalTimeOffset.h"
 #include "../dvb/DescSatelliteDeliverySystem.h"
+#include "../isdb/DescAbstractService.h"
+#include "../isdb/DescAudioComponent.h"
+#include "../isdb/DescBoardInformation.h"
+#include "../isdb/DescComponentGroup.h"
+#include "../isdb/DescDigitalCopyControl.h"
+#include "../isdb/DescEventGroup.h"
+#include "../isdb/DescScheduling.h"
 #include "../isdb/DescARIBTerrestrialDeliverySystem.h"
 #include "../isdb/DescDownloadContent.h"
 #include "../isdb/DescExtendedBroadcaster.h"
@@ -46,6 +53,7 @@ TCDescConfDVB::TCDescConfDVB(const ZUMHandle& handle) : m_handle(handle) {}
 TCBaseDesc* TCDescConfDVB::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
 {
     switch (tag) {
+    case 0x01: return new TCDescScheduling();
     case 0x03: return new TCDescSSULocation();
     case 0x25: return new TCDescMetadataPointer();
     case 0x40: return new TCDescNetworkName();
@@ -71,6 +79,8 @@ TCBaseDesc* TCDescConfDVB::NewDescriptor(int tag, const unsigned char* data, uns
     case 0x64: return new TCDescDataBroadcast();
     case 0x66: return new TCDescDataBroadcastId();
     case 0x6A: return new TCDescAC3();
+    case 0x71: return new TCDescServiceIdentifier();
+    case 0x72: return new TCDescServiceAvailability();
     case 0x7A: return new TCDescEnhancedAC3();
     case 0x7E: return new TCDescFTAContentManagement();
     case 0x7F: return TCDescExtension::ProcessExtensionDescriptor(data, pds);
@@ -233,6 +243,7 @@ TCBaseDesc* TCDescConfDVB::m_NewDSmartPrivateDesc(int tag, unsigned int pds)
 TCBaseDesc* TCDescConfDVB::m_NewAirTelPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {
+    case 0xCC: return new TCDescEPGInformation();
     case 0xE2: return new TCDescLogicalChannel(0xE2, pds);
     default: return t_NewDefaultPrivateDesc(tag, pds);
     }
@@ -370,6 +381,8 @@ TCBaseDesc* TCDescConfISDB::NewDescriptor(int tag, const unsigned char* data, un
 TCBaseDesc* TCDescConfISDB::t_ProcessPrivateDesc(int tag, unsigned int /*pds*/)
 {
     switch (tag) {
+    case 0xC4: return new TCDescAudioComponent();
+    case 0xC7: return new TCDescDataContent();
     case 0xCD: return new TCDescTSInformation();
     case 0xCF: return new TCDescLogoTransmission();
     case 0xFA: return new TCDescARIBTerrestrialDeliverySystem();
@@ -383,6 +396,12 @@ TCDescConfJPN::TCDescConfJPN(const ZUMHandle& handle) : TCDescConfISDB(handle) {
 TCBaseDesc* TCDescConfJPN::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
 {
     switch (tag) {
+    case 0xC1: return new TCDescDigitalCopyControl();
+    case 0xD5: return new TCDescSeries();
+    case 0xD6: return new TCDescEventGroup();
+    case 0xD9: return new TCDescComponentGroup();
+    case 0xDB: return new TCDescBoardInformation();
+    case 0xDE: return new TCDescContentAvailability();
     case 0xC9: return new TCDescDownloadContent();
     case 0xCE: return new TCDescExtendedBroadcaster();
     case 0xDA: return new TCDescSIPrimeTS();

@@ -54,6 +54,7 @@
 #include "av/DescAPD.h"
 #include "inspect/TkgsView.h"
 #include "inspect/FreesatView.h"
+#include "inspect/IsdbEventView.h"
 #include "isdb/DescEmergencyInformation.h"
 #include "operators/DescLogicalChannel.h"
 #include "inspect/OperatorTablesView.h"
@@ -644,8 +645,10 @@ Json DescribeDescriptor(const TCBaseDesc& desc, const TextDecoder& text)
         out["fields"] = av;
     else if (!(freesat = DescribeFreesat(desc, text)).is_null())
         out["fields"] = freesat;
-    else if (Json isdb = DescribeIsdbNetDescriptor(desc, text); !isdb.is_null())
+    else if (Json isdb = DescribeIsdbEventDescriptor(desc, text); !isdb.is_null())
         out["fields"] = isdb;
+    else if (Json isdbNet = DescribeIsdbNetDescriptor(desc, text); !isdbNet.is_null())
+        out["fields"] = isdbNet;
     else
         out["raw"] = RawHex(desc);
     return out;
