@@ -30,6 +30,7 @@
 #include "ReadOperatorFields.h"
 #include "operators/DescTKGSComponent.h"
 #include "ReadFSatFields.h"
+#include "ReadTargetingFields.h"
 
 namespace fuzzfields {
 
@@ -104,6 +105,7 @@ inline void ReadAPD(const TCDescAPD& d)
 inline void Read(TCBaseDesc* desc)
 {
     ReadApp(desc);
+    targetfields::Read(desc);
     if (auto* d = dynamic_cast<TCDescAC4*>(desc))
         ReadAC4(*d);
     if (auto* d = dynamic_cast<TCDescAPD*>(desc))

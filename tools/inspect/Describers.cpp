@@ -53,6 +53,7 @@
 #include "av/DescAPD.h"
 #include "inspect/TkgsView.h"
 #include "inspect/FreesatView.h"
+#include "inspect/TargetingView.h"
 #include "isdb/DescEmergencyInformation.h"
 #include "operators/DescLogicalChannel.h"
 #include "inspect/LinkageView.h"
@@ -630,6 +631,8 @@ Json DescribeDescriptor(const TCBaseDesc& desc, const TextDecoder& text)
         out["fields"] = av;
     else if (!(freesat = DescribeFreesat(desc, text)).is_null())
         out["fields"] = freesat;
+    else if (Json targeting = DescribeTargeting(desc, text); !targeting.is_null())
+        out["fields"] = targeting;
     else
         out["raw"] = RawHex(desc);
     return out;

@@ -11,6 +11,7 @@
 #include "inspect/Format.h"
 #include "inspect/OperatorsView.h"
 #include "inspect/FreesatView.h"
+#include "inspect/TargetingView.h"
 #include "inspect/Text.h"
 #include "inspect/TkgsView.h"
 
@@ -329,6 +330,7 @@ void RenderTree(const Json& model, std::ostream& out)
     tree.Sit(part("sit"));
     RenderAitTree(part("ait"), out);
     RenderSgtTree(part("sgt"), out);
+    RenderRctTree(part("rct"), out);
     RenderTkgsTree(part("tkgs"), out);
     RenderAtscTree(part("atsc"), out);
     tree.Summary(part("summary"));
