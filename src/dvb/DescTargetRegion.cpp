@@ -31,8 +31,8 @@ std::string RunText(const unsigned char* at, int length)
     return at ? std::string(reinterpret_cast<const char*>(at), static_cast<size_t>(length)) : std::string();
 }
 
-// The region codes of a target region entry behind its depth byte, as far as
-// the body holds them; false for an entry that the body's end cuts off.
+// The region codes of a target region entry behind its head, as far as the
+// body holds them; false for an entry that the body's end cuts off.
 template <class Region>
 bool ReadRegionCodes(TCByteReader& reader, unsigned int depth, Region& region)
 {
@@ -43,6 +43,40 @@ bool ReadRegionCodes(TCByteReader& reader, unsigned int depth, Region& region)
     if (depth == 3)
         region.tertiary = static_cast<unsigned short>(reader.U16());
     return !reader.IsShort();
+}
+
+// The entries of a region loop to the body's end. `head` reads what stands
+// between an entry's flags byte and its codes and gives the depth. Depth 0,
+// or an entry that the end cuts off, ends the loop with false.
+template <class Region, class Head>
+bool ReadRegions(TCByteReader& reader, std::vector<Region>& regions, Head head)
+{
+    while (reader.Left() > 0) {
+        Region region;
+        const unsigned int depth = head(reader.U8(), region);
+        if (depth == 0 || reader.IsShort() || !ReadRegionCodes(reader, depth, region))
+            return false;
+        regions.push_back(region);
+    }
+    return true;
+}
+
+// The region at `index` with the descriptor's country; null while the
+// descriptor is not valid or behind the last.
+template <class Region>
+const Region* GiveRegion(bool valid, const std::vector<Region>& regions, unsigned int index, unsigned int countryCode,
+                         unsigned int& country, unsigned int& depth, unsigned char& primary, unsigned char& secondary,
+                         unsigned short& tertiary)
+{
+    if (!valid || index >= regions.size())
+        return nullptr;
+    const Region& region = regions[index];
+    country = countryCode;
+    depth = region.depth;
+    primary = region.primary;
+    secondary = region.secondary;
+    tertiary = region.tertiary;
+    return &region;
 }
 
 } // namespace
@@ -203,45 +237,24 @@ int TCDescTargetRegion::t_Parse(const unsigned char* payload, unsigned char leng
     if (len < 1 || payload[0] != kTargetRegionTag)
         return 0;
     m_regions.clear();
-    m_valid = true;
     TCByteReader reader(payload + 1, len - 1);
     m_countryCode = reader.U24();
-    if (reader.IsShort())
-        m_valid = false;
-    while (m_valid && reader.Left() > 0) {
-        const unsigned int flags = reader.U8();
-        const unsigned int depth = flags & 0x03;
-        if (depth == 0) {
-            m_valid = false;
-            break;
+    // A country in an entry stands for the whole descriptor.
+    m_valid = !reader.IsShort() && ReadRegions(reader, m_regions, [&](unsigned int flags, TTRegion&) {
+        if ((flags & 0x04) != 0) {
+            const unsigned int country = reader.U24();
+            if (!reader.IsShort())
+                m_countryCode = country;
         }
-        unsigned int country = 0;
-        if ((flags & 0x04) != 0)
-            country = reader.U24();
-        TTRegion region;
-        if (!ReadRegionCodes(reader, depth, region)) {
-            m_valid = false;
-            break;
-        }
-        if ((flags & 0x04) != 0)
-            m_countryCode = country;
-        m_regions.push_back(region);
-    }
+        return flags & 0x03;
+    });
     return len;
 }
 
 bool TCDescTargetRegion::GetRegion(unsigned int index, unsigned int& country, unsigned int& depth,
                                    unsigned char& primary, unsigned char& secondary, unsigned short& tertiary) const
 {
-    if (!m_valid || index >= m_regions.size())
-        return false;
-    const TTRegion& region = m_regions[index];
-    country = m_countryCode;
-    depth = region.depth;
-    primary = region.primary;
-    secondary = region.secondary;
-    tertiary = region.tertiary;
-    return true;
+    return GiveRegion(m_valid, m_regions, index, m_countryCode, country, depth, primary, secondary, tertiary);
 }
 
 // ---------------------------------------------------------------- target region name
@@ -264,29 +277,16 @@ int TCDescTargetRegionName::t_Parse(const unsigned char* payload, unsigned char 
     if (len < 1 || payload[0] != kTargetRegionNameTag)
         return 0;
     m_regions.clear();
-    m_valid = true;
     TCByteReader reader(payload + 1, len - 1);
     m_countryCode = reader.U24();
     m_language = reader.U24();
-    if (reader.IsShort())
-        m_valid = false;
-    while (m_valid && reader.Left() > 0) {
-        const unsigned int flags = reader.U8();
-        const unsigned int depth = flags >> 6;
+    m_valid = !reader.IsShort() && ReadRegions(reader, m_regions, [&](unsigned int flags, TTRegion& region) {
         const int nameLength = static_cast<int>(flags & 0x3F);
-        if (depth == 0 || !reader.Has(nameLength)) {
-            m_valid = false;
-            break;
-        }
-        TTRegion region;
-        region.name = t_Run(payload, reader.Here(), nameLength);
-        reader.Skip(nameLength);
-        if (!ReadRegionCodes(reader, depth, region)) {
-            m_valid = false;
-            break;
-        }
-        m_regions.push_back(region);
-    }
+        if (!reader.Skip(nameLength))
+            return 0u;
+        region.name = t_Run(payload, reader.Here() - nameLength, nameLength);
+        return flags >> 6;
+    });
     return len;
 }
 
@@ -294,20 +294,16 @@ bool TCDescTargetRegionName::GetRegion(unsigned int index, unsigned char* name, 
                                        unsigned int& country, unsigned int& depth, unsigned char& primary,
                                        unsigned char& secondary, unsigned short& tertiary) const
 {
-    if (!m_valid || index >= m_regions.size())
+    const TTRegion* region =
+        GiveRegion(m_valid, m_regions, index, m_countryCode, country, depth, primary, secondary, tertiary);
+    if (!region)
         return false;
-    const TTRegion& region = m_regions[index];
-    size = std::min<unsigned int>(size, region.name.length);
-    const unsigned char* text = t_At(region.name);
+    size = std::min<unsigned int>(size, region->name.length);
+    const unsigned char* text = t_At(region->name);
     if (name && text && size > 0)
         std::memcpy(name, text, size);
     else
         size = 0;
-    country = m_countryCode;
-    depth = region.depth;
-    primary = region.primary;
-    secondary = region.secondary;
-    tertiary = region.tertiary;
     return true;
 }
 

@@ -33,6 +33,9 @@ void TCRelatedContentLink::TSISOString::Convert(TCUniCodeText& out) const
 {
     std::string bytes;
     Convert(bytes);
+    // An empty text would only assert there; the holder keeps what it had, as it would after that assertion.
+    if (bytes.empty())
+        return;
     out.SetUniCodeText(static_cast<int>(language), reinterpret_cast<unsigned char*>(&bytes[0]),
                        static_cast<unsigned short>(bytes.size()));
 }
