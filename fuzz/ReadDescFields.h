@@ -31,6 +31,7 @@
 #include "operators/DescTKGSComponent.h"
 #include "ReadFSatFields.h"
 #include "ReadIsdbEventFields.h"
+#include "ReadTargetingFields.h"
 #include "ReadIsdbNetFields.h"
 
 namespace fuzzfields {
@@ -109,6 +110,7 @@ inline void ReadAPD(const TCDescAPD& d)
 inline void Read(TCBaseDesc* desc)
 {
     ReadApp(desc);
+    targetfields::Read(desc);
     if (auto* d = dynamic_cast<TCDescAC4*>(desc))
         ReadAC4(*d);
     if (auto* d = dynamic_cast<TCDescAPD*>(desc))

@@ -12,6 +12,7 @@
 #include "../av/DescMetadata.h"
 #include "../dvb/DescComponent.h"
 #include "../dvb/DescContent.h"
+#include "../dvb/DescCRID.h"
 #include "../dvb/DescLanguage.h"
 #include "../dvb/DescLinkage.h"
 #include "../dvb/DescPrivateDataSpecifier.h"
@@ -43,6 +44,7 @@ TCBaseDesc* TCDescConfPSIBase::NewDescriptor(int tag, const unsigned char* /*dat
     case 0x52: return new TCDescStreamIdentifier();
     case 0x66: return new TCDescDataBroadcastId();
     case 0x88: return new TCDescDTCP();
+    case 0xB6: return new TCDescContentIdentifier();
     default: return new TCDescDefault(tag);
     }
 }

@@ -6,6 +6,7 @@
 #include "../av/DescAC3.h"
 #include "../av/DescAVCVideo.h"
 #include "../av/DescAudioFile.h"
+#include "../dvb/DescTargetRegion.h"
 
 TCBaseDesc* TCDescConfPSIP::NewDescriptor(int tag, const unsigned char* /*data*/, unsigned int /*pds*/)
 {
@@ -17,6 +18,7 @@ TCBaseDesc* TCDescConfPSIP::NewDescriptor(int tag, const unsigned char* /*data*/
     case 0xA0: return new TCDescExtendedChannelName();
     case 0xA1: return new TCDescServiceLocation();
     case 0xE1: return new TCDescResolutionClass();
+    case 0xE2: return new TCDescSOProperties();
     default: return new TCDescDefault(tag);
     }
 }
