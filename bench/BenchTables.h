@@ -17,7 +17,7 @@ namespace zumbench {
 
 using zumtest::Bytes;
 
-enum class Family { Pat, Pmt, Nit, Bat, Sdt, EitPf, EitSchedule, EitScheduleCompressed, DescriptorLoop, Mgt, Tvct };
+enum class Family { Pat, Pmt, Nit, Bat, Sdt, EitPf, EitSchedule, EitScheduleCompressed, DescriptorLoop, Mgt, Tvct, PsipEit };
 
 const std::vector<Family>& AllFamilies();
 const char* FamilyName(Family family);
@@ -56,11 +56,14 @@ constexpr int kEitScheduleEventsPerSection = 10;
 constexpr int kDescriptorLoopDescriptors = 7;
 constexpr int kMgtTables = 19;
 constexpr int kTvctChannels = 8;
+constexpr int kPsipEitSections = 4;
+constexpr int kPsipEitEventsPerSection = 8;
+constexpr unsigned kPsipEitSourceId = 0x0003;
 
 // What a peer's pass must decode, so that no benchmark times a refusal: the
 // descriptors that the library decodes into objects (the PAT: its programs;
-// the MGT and TVCT: their table entries and channels, since GStreamer decodes
-// no PSIP descriptor).
+// the MGT, TVCT and PSIP EIT: their table entries, channels and events, since
+// GStreamer decodes no PSIP descriptor).
 int DecodedByPeers(Family family);
 
 } // namespace zumbench
