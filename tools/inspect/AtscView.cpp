@@ -136,17 +136,6 @@ Json StringStructure(const TCMultipleStringStruct& mss)
     return {{"text", rendered ? Json(*rendered) : Json(nullptr)}, {"strings", strings}};
 }
 
-// The parser in `slot`, made and initialized on first use.
-template <class Parser, class Slot>
-TCSectionParser* Made(std::unique_ptr<Slot>& slot, const ZUMHandle& handle)
-{
-    if (!slot) {
-        slot.reset(new Parser(handle));
-        slot->Initialize();
-    }
-    return slot.get();
-}
-
 } // namespace
 
 std::string ChannelShortName(const TCVCTChannel& channel)
@@ -191,9 +180,9 @@ TCSectionParser* AtscTables::Parser(uint16_t pid, uint8_t tableId)
     if (TCSectionParser* psip = m_psip->Parser(pid, tableId))
         return psip;
     switch (m_KindOf(pid, tableId)) {
-    case Kind::Mgt: return Made<TCMGTParser>(m_mgt, m_handle);
-    case Kind::Tvct: Made<TCTVCTParser>(m_tvct, m_handle); break;
-    case Kind::Cvct: Made<TCCVCTParser>(m_cvct, m_handle); break;
+    case Kind::Mgt: return MadeParser<TCMGTParser>(m_mgt, m_handle);
+    case Kind::Tvct: MadeParser<TCTVCTParser>(m_tvct, m_handle); break;
+    case Kind::Cvct: MadeParser<TCCVCTParser>(m_cvct, m_handle); break;
     case Kind::None: return nullptr;
     }
     // A VCT made after the MGT came learns its version too.

@@ -81,6 +81,17 @@ private:
 // The short name of a virtual channel, blanks behind it cut ("KULX-HD").
 std::string ChannelShortName(const TCVCTChannel& channel);
 
+// The parser in `slot`, made and initialized on first use.
+template <class Parser, class Slot>
+TCSectionParser* MadeParser(std::unique_ptr<Slot>& slot, const ZUMHandle& handle)
+{
+    if (!slot) {
+        slot.reset(new Parser(handle));
+        slot->Initialize();
+    }
+    return slot.get();
+}
+
 // A multiple string structure as the binder's viewer reads it, in UTF-8;
 // nullopt when no string renders.
 std::optional<std::string> RenderMultipleString(const TCMultipleStringStruct& text);

@@ -338,16 +338,6 @@ PsipTables::Kind PsipTables::m_KindOf(uint16_t pid, uint8_t tableId) const
     }
 }
 
-template <class Parser, class Slot>
-static TCSectionParser* MadeParser(std::unique_ptr<Slot>& slot, const ZUMHandle& handle)
-{
-    if (!slot) {
-        slot.reset(new Parser(handle));
-        slot->Initialize();
-    }
-    return slot.get();
-}
-
 TCSectionParser* PsipTables::Parser(uint16_t pid, uint8_t tableId)
 {
     switch (m_KindOf(pid, tableId)) {
