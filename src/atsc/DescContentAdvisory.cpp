@@ -77,6 +77,11 @@ TCBaseDesc* TCDescContentAdvisory::Fork() const
         ZUM_LOGI("[TCDescContentAdvisory::Fork][%p] OTHERS", static_cast<const void*>(this));
         return t_ForkAs(copy.release());
     default:
+        // An empty body in a loop never reaches t_Parse: its container's copy still needs the object.
+        if (m_tableId >= 0) {
+            copy->m_tableId = m_tableId;
+            return copy.release();
+        }
         ZUM_LOGI("[TCDescContentAdvisory::Fork][%p] UNDEFINED", static_cast<const void*>(this));
         return nullptr;
     }

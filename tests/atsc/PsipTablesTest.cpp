@@ -12,6 +12,7 @@
 #include "atsc/EASParser.h"
 #include "atsc/RRTParser.h"
 #include "atsc/STTParser.h"
+#include "core/Descriptor.h"
 #include "support/LogCapture.h"
 #include "support/SectionBuilder.h"
 #include "support/TestEnvironment.h"
@@ -242,6 +243,14 @@ TEST(ContentAdvisory, BroadcastBytes)
     }
     TCDescContentAdvisory never;
     EXPECT_EQ(never.Fork(), nullptr);
+    // An empty body in a loop is never decoded, yet a copy of its container keeps it.
+    zumtest::BinderScope binder(Usa());
+    const Bytes loop = zumtest::Desc(0x87, {});
+    TCDescriptorHash hash, copy;
+    TCDescriptor(ZUMHandle{}).Parse(loop.data(), static_cast<int>(loop.size()), hash, 0xCB);
+    copy = hash;
+    EXPECT_EQ(copy.NumOfDescriptors(0x87), 1);
+    EXPECT_TRUE(copy == hash);
 }
 
 TEST(ContentAdvisory, RatingStrings)
