@@ -31,6 +31,7 @@
 #include "ReadOperatorFields.h"
 #include "operators/DescTKGSComponent.h"
 #include "ReadFSatFields.h"
+#include "ReadIsdbNetFields.h"
 
 namespace fuzzfields {
 
@@ -216,6 +217,7 @@ inline void Read(TCBaseDesc* desc)
     if (auto* d = dynamic_cast<TCDescTKGSComponent*>(desc))
         Take(d->Flag() + d->Found());
     fsatfields::Read(desc);
+    isdbnetfields::Read(desc);
 }
 
 } // namespace fuzzfields

@@ -69,6 +69,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     for (TCBaseDesc* clone : clones) {
         int capacity = sizeof buffer;
         if (clone->GetDescriptor(buffer, &capacity) && capacity > 2) {
+            isdbnetfields::DecodeAsSystemManagement(buffer);
             TCDescriptorDataTranslator bits(buffer + 2, static_cast<unsigned char>(capacity - 2));
             while (!bits.EndOfData()) {
                 bits.GetBits(3);

@@ -16,6 +16,9 @@
 #include "../dvb/DescLinkage.h"
 #include "../dvb/DescLocalTimeOffset.h"
 #include "../dvb/DescSatelliteDeliverySystem.h"
+#include "../isdb/DescARIBTerrestrialDeliverySystem.h"
+#include "../isdb/DescDownloadContent.h"
+#include "../isdb/DescExtendedBroadcaster.h"
 #include "../operators/DescAstraServiceListName.h"
 #include "../operators/DescCIPlusService.h"
 #include "../operators/DescDSmartIdentifier.h"
@@ -354,6 +357,10 @@ TCBaseDesc* TCDescConfISDB::NewDescriptor(int tag, const unsigned char* data, un
 TCBaseDesc* TCDescConfISDB::t_ProcessPrivateDesc(int tag, unsigned int /*pds*/)
 {
     switch (tag) {
+    case 0xCD: return new TCDescTSInformation();
+    case 0xCF: return new TCDescLogoTransmission();
+    case 0xFA: return new TCDescARIBTerrestrialDeliverySystem();
+    case 0xFB: return new TCDescPartialReception();
     default: return new TCDescDefault(tag);
     }
 }
@@ -363,6 +370,9 @@ TCDescConfJPN::TCDescConfJPN(const ZUMHandle& handle) : TCDescConfISDB(handle) {
 TCBaseDesc* TCDescConfJPN::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
 {
     switch (tag) {
+    case 0xC9: return new TCDescDownloadContent();
+    case 0xCE: return new TCDescExtendedBroadcaster();
+    case 0xDA: return new TCDescSIPrimeTS();
     default: return TCDescConfISDB::NewDescriptor(tag, data, pds);
     }
 }

@@ -49,6 +49,7 @@
 #include "inspect/AitView.h"
 #include "inspect/AudioView.h"
 #include "inspect/EwsView.h"
+#include "inspect/IsdbNetView.h"
 #include "av/DescAC4.h"
 #include "av/DescAPD.h"
 #include "inspect/TkgsView.h"
@@ -630,6 +631,8 @@ Json DescribeDescriptor(const TCBaseDesc& desc, const TextDecoder& text)
         out["fields"] = av;
     else if (!(freesat = DescribeFreesat(desc, text)).is_null())
         out["fields"] = freesat;
+    else if (Json isdb = DescribeIsdbNetDescriptor(desc, text); !isdb.is_null())
+        out["fields"] = isdb;
     else
         out["raw"] = RawHex(desc);
     return out;

@@ -7,6 +7,7 @@
 #include "inspect/AitView.h"
 #include "inspect/EwsView.h"
 #include "inspect/IsdbView.h"
+#include "inspect/IsdbNetView.h"
 #include "inspect/AtscView.h"
 #include "inspect/Format.h"
 #include "inspect/OperatorsView.h"
@@ -151,6 +152,8 @@ public:
         for (const Json& ts : streams) {
             Line(depth, "transport stream " + HexOr(ts["transportStreamId"], 4) + ", original network " +
                             HexOr(ts["originalNetworkId"], 4));
+            if (ts.contains("isdbScan"))
+                Line(depth + 1, IsdbScanLine(ts["isdbScan"]));
             Descriptors(depth + 1, ts["descriptors"]);
             for (const Json& s : ts["services"]) {
                 const Json& tag = s["channelNumberTag"];
