@@ -22,6 +22,8 @@
 #include "../operators/DescAstraServiceListName.h"
 #include "../operators/DescCIPlusService.h"
 #include "../operators/DescDSmartIdentifier.h"
+#include "../operators/DescChannelOrder.h"
+#include "../operators/DescDigiturkLogicalChannel.h"
 #include "../operators/DescDigiturkServiceTheme.h"
 #include "../operators/DescDishTVGenre.h"
 #include "../operators/DescGTPLGenreList.h"
@@ -143,8 +145,13 @@ TCBaseDesc* TCDescConfDVB::t_ProcessPrivateDesc(int tag, unsigned int pds)
 TCBaseDesc* TCDescConfDVB::t_NewDefaultPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {
+    case 0xD1:
+        return m_GetPrivateDataSpecification() == 0x004FFFFF ? new TCDescPolsatChannelListInfo() : nullptr;
+    case 0x81:
+        return m_GetPrivateDataSpecification() == 0x004FFFFF ? new TCDescPolsatLogicalChannel(pds) : nullptr;
     case 0x83: return new TCDescLogicalChannel(0x83, pds);
     case 0xE2: return m_GetPrivateDataSpecification() == 0x009FFFFF ? new TCDescTelekomGrid() : nullptr;
+    case 0xE4: return m_GetPrivateDataSpecification() == 0x003FFFFF ? new TCDescOtauChannelOrder() : nullptr;
     default: return nullptr;
     }
 }
@@ -200,8 +207,7 @@ TCBaseDesc* TCDescConfDVB::m_NewRCSPrivateDesc(int tag, unsigned int pds)
 TCBaseDesc* TCDescConfDVB::m_NewFransatPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {
-    // This specifier's own channel number format: kept raw until its class decodes it.
-    case 0x83: return new TCDescDefault(0x83);
+    case 0x83: return new TCDescEutelsatChannelNumber();
     default: return t_NewDefaultPrivateDesc(tag, pds);
     }
 }
@@ -235,16 +241,24 @@ TCBaseDesc* TCDescConfDVB::m_NewNXTPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {
     case 0x82: return new TCDescLogicalChannel(0x82, pds);
+    case 0x93: return new TCDescNXTServiceOrder();
     default: return t_NewDefaultPrivateDesc(tag, pds);
     }
 }
-TCBaseDesc* TCDescConfDVB::m_NewDigitalPlusPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewDigitalPlusPrivateDesc(int tag, unsigned int pds)
+{
+    switch (tag) {
+    case 0x82:
+    case 0x84: return new TCDescSogecablePrivateChannelList(tag);
+    default: return t_NewDefaultPrivateDesc(tag, pds);
+    }
+}
 TCBaseDesc* TCDescConfDVB::m_NewDigiturkPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {
+    // 0x81 here has the Philips layout, not Digiturk's own.
     case 0x81: return new TCDescLogicalChannel(0x81, pds);
-    // Digiturk's own channel number format: kept raw until its class decodes it.
-    case 0x83: return new TCDescDefault(0x83);
+    case 0x83: return new TCDescDigiturkLogicalChannel(pds);
     case 0x96: return new TCDescDigiturkServiceTheme();
     default: return t_NewDefaultPrivateDesc(tag, pds);
     }
@@ -252,8 +266,7 @@ TCBaseDesc* TCDescConfDVB::m_NewDigiturkPrivateDesc(int tag, unsigned int pds)
 TCBaseDesc* TCDescConfDVB::m_NewTelekartaPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {
-    // This specifier's own channel number format: kept raw until its class decodes it.
-    case 0x83: return new TCDescDefault(0x83);
+    case 0x83: return new TCDescTelekartaLogicalChannel(pds);
     default: return t_NewDefaultPrivateDesc(tag, pds);
     }
 }

@@ -56,6 +56,10 @@
 #include "inspect/FreesatView.h"
 #include "isdb/DescEmergencyInformation.h"
 #include "operators/DescLogicalChannel.h"
+#include "inspect/OperatorTablesView.h"
+#include "operators/DescADBLCNv2Activate.h"
+#include "operators/DescChannelOrder.h"
+#include "operators/DescDigiturkLogicalChannel.h"
 #include "inspect/LinkageView.h"
 #include "operators/DescLogicalChannelV2.h"
 #include "operators/DescTKGSComponent.h"
@@ -590,6 +594,15 @@ DescriberTable MakeTable()
     Register<TCDescTricolorRegionName>(t, DescribeTricolorRegionName);
     Register<TCDescTricolorListType>(t, DescribeTricolorListType);
     Register<TCDescUKDTTServiceAttribute>(t, DescribeUKDTTServiceAttribute);
+    Register<TCDescDigiturkLogicalChannel>(t, DescribeDigiturkLogicalChannel);
+    Register<TCDescPolsatLogicalChannel>(t, DescribePolsatLogicalChannel);
+    Register<TCDescTelekartaLogicalChannel>(t, DescribeTelekartaLogicalChannel);
+    Register<TCDescPolsatChannelListInfo>(t, DescribePolsatChannelListInfo);
+    Register<TCDescEutelsatChannelNumber>(t, DescribeEutelsatChannelNumber);
+    Register<TCDescSogecablePrivateChannelList>(t, DescribeSogecablePrivateChannelList);
+    Register<TCDescNXTServiceOrder>(t, DescribeNXTServiceOrder);
+    Register<TCDescOtauChannelOrder>(t, DescribeOtauChannelOrder);
+    Register<TCDescADBLCNv2Activate>(t, DescribeADBLCNv2Activate);
     return t;
 }
 

@@ -430,6 +430,8 @@ Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContex
             {"tkgs", TkgsModel(router, b.text)},
             {"atsc", DescribeAtsc(router.Atsc(), b.text)},
             {"freesatPostCodes", FreesatPostCodes(router.FSatPostCodes())},
+            {"fastScan", router.Operators().FastScanModel(b.text)},
+            {"unt", router.Operators().UntModel(b.text)},
             {"summary", b.Summary()}};
 }
 

@@ -8,6 +8,7 @@
 #include "inspect/EwsView.h"
 #include "inspect/IsdbView.h"
 #include "inspect/IsdbNetView.h"
+#include "inspect/OperatorTablesView.h"
 #include "inspect/AtscView.h"
 #include "inspect/Format.h"
 #include "inspect/OperatorsView.h"
@@ -334,6 +335,8 @@ void RenderTree(const Json& model, std::ostream& out)
     RenderSgtTree(part("sgt"), out);
     RenderTkgsTree(part("tkgs"), out);
     RenderAtscTree(part("atsc"), out);
+    RenderFastScanTree(part("fastScan"), out);
+    RenderUntTree(part("unt"), out);
     tree.Summary(part("summary"));
 }
 
