@@ -12,6 +12,7 @@
 #include <set>
 #include <vector>
 
+#include "ReadAtscFields.h"
 #include "ReadAvFields.h"
 #include "av/DescAC4.h"
 #include "av/DescAPD.h"
@@ -191,6 +192,7 @@ inline void Read(TCBaseDesc* desc)
         for (int i = -1; i <= d->NumOfEntries(); ++i)
             Take(d->CentreFrequency(i) != 0.0f);
     ReadAv(desc, g_sink);
+    ReadAtsc(desc, g_sink);
     if (auto* d = dynamic_cast<IDescLogicalChannel*>(desc))
         ReadLcn(*d);
     if (auto* d = dynamic_cast<TCDescLogicalChannelV2*>(desc)) {
