@@ -25,6 +25,7 @@ constexpr uint16_t kPidPsip = 0x1FFB;
 constexpr uint16_t kPidOob = 0x1FFC;
 constexpr uint16_t kPidSgt = 0x0100;
 constexpr uint16_t kPidTkgs = 0x1FF0;
+constexpr uint16_t kPidFastScan = 0x0384;
 
 Bytes Text(const std::string& text)
 {
@@ -472,6 +473,26 @@ std::vector<Bytes> Sgt(unsigned version)
     return sections;
 }
 
+// ---- FST: a fast-scan operator's 80 services over two sections, each named --
+
+std::vector<Bytes> Fst(unsigned version)
+{
+    constexpr unsigned kSections = 2;
+    constexpr unsigned kPerSection = kFstServices / kSections;
+    std::vector<Bytes> sections;
+    for (unsigned section = 0; section < kSections; ++section) {
+        SectionBuilder s(zumtest::LongHeader(0xBD, 0x0100, version, section, kSections - 1));
+        for (unsigned i = 0; i < kPerSection; ++i) {
+            const unsigned n = section * kPerSection + i;
+            s.U16(0x0001).U16(0x0400 + n / 10).U16(0x2000 + n);
+            s.U16(0xE000 | (0x100 + n)).U16(0xE000 | (0x200 + n)).U16(0xFFFF).U16(0xFFFF).U16(0xE000 | (0x100 + n));
+            s.Begin16().Descriptor(0x48, Concat({{0x01, 0x03}, Text("M7 "), {0x07}, Text("Channel")})).End();
+        }
+        sections.push_back(s.Build());
+    }
+    return sections;
+}
+
 // ---- TKGS: an operator's line-up, 4 transports of 6 services, 2 lists -------
 
 Bytes TkgsSdt(unsigned tsid)
@@ -545,6 +566,7 @@ Table Make(Family family)
         case Family::Aeit: t.pid = kPidOob; t.tableId = 0xD6; t.versions[v] = Aeit(version); break;
         case Family::Sgt: t.pid = kPidSgt; t.tableId = 0x91; t.versions[v] = Sgt(version); break;
         case Family::Tkgs: t.pid = kPidTkgs; t.tableId = 0xA7; t.versions[v] = Tkgs(version); break;
+        case Family::Fst: t.pid = kPidFastScan; t.tableId = 0xBD; t.versions[v] = Fst(version); break;
         }
     }
     return t;
@@ -567,7 +589,8 @@ const std::vector<Family>& AllFamilies()
                                             Family::EitPf,       Family::EitSchedule,
                                             Family::EitScheduleCompressed, Family::DescriptorLoop,
                                             Family::Mgt,         Family::Tvct,        Family::EitIsdb,
-                                            Family::Svct,        Family::Aeit,        Family::Sgt,         Family::Tkgs};
+                                            Family::Svct,        Family::Aeit,        Family::Sgt,         Family::Tkgs,
+                                            Family::Fst};
     return all;
 }
 
@@ -590,6 +613,7 @@ const char* FamilyName(Family family)
     case Family::Aeit: return "AEIT";
     case Family::Sgt: return "SGT";
     case Family::Tkgs: return "TKGS";
+    case Family::Fst: return "FST";
     }
     return "?";
 }
@@ -612,7 +636,8 @@ int DecodedByPeers(Family family)
     case Family::Svct:
     case Family::Aeit:
     case Family::Sgt:
-    case Family::Tkgs: return -1;
+    case Family::Tkgs:
+    case Family::Fst: return -1;
     }
     return -1;
 }

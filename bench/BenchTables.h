@@ -20,7 +20,7 @@ using zumtest::Bytes;
 enum class Family {
     Pat, Pmt, Nit, Bat, Sdt, EitPf, EitSchedule, EitScheduleCompressed, DescriptorLoop, Mgt, Tvct, EitIsdb,
     // Tables no peer decodes: timed against the floor only.
-    Svct, Aeit, Sgt, Tkgs,
+    Svct, Aeit, Sgt, Tkgs, Fst,
 };
 
 const std::vector<Family>& AllFamilies();
@@ -66,6 +66,7 @@ constexpr int kSvctChannels = 24;
 constexpr int kAeitSources = 4;
 constexpr int kAeitEventsPerSource = 6;
 constexpr int kSgtServices = 60;
+constexpr int kFstServices = 80;
 constexpr int kTkgsServices = 24;
 constexpr int kTkgsLists = 2;
 

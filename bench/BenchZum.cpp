@@ -20,6 +20,7 @@
 #include <zum-parser/dvb/DVBEITParser.h>
 #include <zum-parser/dvb/DVBNITParser.h>
 #include <zum-parser/dvb/DVBSDTParser.h>
+#include <zum-parser/dvb/DVBFSTParser.h>
 #include <zum-parser/dvb/DVBSGTParser.h>
 #include <zum-parser/dvb/DVBTKGSParser.h>
 #include <zum-parser/psi/PATParser.h>
@@ -331,6 +332,19 @@ void Sgt(benchmark::State& state)
     RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
 }
 
+void Fst(benchmark::State& state)
+{
+    const Table& table = TableOf(Family::Fst);
+    ReportHeld<TCDVBFSTParser>(state, table, 0xBD, kHandle);
+    TCDVBFSTParser parser(0xBD, kHandle);
+    parser.Initialize();
+    if (!Prime(parser, table) || !parser.DVBFSTInstance(0x0100) ||
+        parser.DVBFSTInstance(0x0100)->NumOfDVBFSTItemService() != kFstServices)
+        return state.SkipWithError("FST not decoded");
+    // Per pass: a version change of one operator, 80 service records with their service descriptors.
+    RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
+}
+
 void Tkgs(benchmark::State& state)
 {
     const BinderAs turkey([](zum_platform::BinderSettings& b) {
@@ -373,6 +387,7 @@ void RegisterZum(Family family)
     case Family::Aeit: Register(family, kZum, Aeit); break;
     case Family::Sgt: Register(family, kZum, Sgt); break;
     case Family::Tkgs: Register(family, kZum, Tkgs); break;
+    case Family::Fst: Register(family, kZum, Fst); break;
     }
 }
 

@@ -59,7 +59,7 @@ TEST(DescConf, FallbacksByFactoryAndTag)
         {"Astra private tag without binder", kAstra, 0x88, 1, 0, ECOUNTRY_NONE, kNoBinderAsserts, "null"},
         {"ISDB private tags go by tag alone", kISDB, 0xC5, 0, 0, ECOUNTRY_NONE, kNoBinder, "default"},
         {"ISDB SI extension", kISDB, 0x7F, 0, 0, ECOUNTRY_NONE, kBinder, "extension"},
-        {"JPN falls back to ISDB", kJPN, 0xFA, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
+        {"JPN falls back to ISDB", kJPN, 0xFA, 0, 0, ECOUNTRY_NONE, kBinder, "decoded"},
         {"PMT tag 0x48 is no service descriptor", kPsiDVB, 0x48, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
         {"PMT tag 0xC1 in a DVB country", kPsiDVB, 0xC1, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
         {"PMT extension", kPsiDVB, 0x7F, 0, 0, ECOUNTRY_NONE, kBinder, "extension"},

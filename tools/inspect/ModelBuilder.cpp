@@ -18,6 +18,7 @@
 #include "inspect/AitView.h"
 #include "inspect/EwsView.h"
 #include "inspect/IsdbView.h"
+#include "inspect/IsdbNetView.h"
 #include "inspect/Format.h"
 #include "inspect/Names.h"
 #include "inspect/Router.h"
@@ -157,10 +158,13 @@ Json Builder::TransportStream(const TCDVBItemMux& mux) const
                 services.back()["channelNumbersByRegion"] = byRegion;
         }
     }
-    return {{"transportStreamId", mux.TransportStreamId()},
-            {"originalNetworkId", mux.OriginalNetworkId()},
-            {"descriptors", DescribeLoop(mux, text)},
-            {"services", services}};
+    Json out = {{"transportStreamId", mux.TransportStreamId()},
+                {"originalNetworkId", mux.OriginalNetworkId()},
+                {"descriptors", DescribeLoop(mux, text)},
+                {"services", services}};
+    if (Json scan = IsdbScan(mux, text); !scan.is_null())
+        out["isdbScan"] = scan;
+    return out;
 }
 
 Json Builder::Nits() const
@@ -426,6 +430,8 @@ Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContex
             {"tkgs", TkgsModel(router, b.text)},
             {"atsc", DescribeAtsc(router.Atsc(), b.text)},
             {"freesatPostCodes", FreesatPostCodes(router.FSatPostCodes())},
+            {"fastScan", router.Operators().FastScanModel(b.text)},
+            {"unt", router.Operators().UntModel(b.text)},
             {"summary", b.Summary()}};
 }
 

@@ -44,6 +44,7 @@
 //   "tkgs":    the TKGS channel systems, schema in inspect/TkgsView.h,
 //   "atsc":    null | the PSIP tables, see AtscView.h,
 //   "freesatPostCodes": see FreesatView.h,
+//   "fastScan", "unt": see OperatorTablesView.h,
 //   "summary": {"demux": {"packetSize", "packets", "syncLosses", "skippedBytes", "truncatedPackets",
 //                         "continuityErrors", "transportErrors", "duplicates", "sections", "crcErrors",
 //                         "droppedSections", "unfinishedSections"},
