@@ -20,6 +20,7 @@
 #include "inspect/IsdbView.h"
 #include "inspect/IsdbNetView.h"
 #include "inspect/Format.h"
+#include "inspect/GuideView.h"
 #include "inspect/Names.h"
 #include "inspect/Router.h"
 #include "inspect/SitView.h"
@@ -289,8 +290,14 @@ Json Builder::Events() const
     Json services = Json::array();
     for (const auto& entry : router.Events().EventsByService()) {
         Json events = Json::array();
-        for (const EitCollector::Event* event : entry.second)
+        for (const EitCollector::Event* event : entry.second) {
             events.push_back(Event(*event));
+            if (context.guide)
+                events.back()["guide"] = GuideAnswers({std::get<0>(entry.first), std::get<1>(entry.first),
+                                                       std::get<2>(entry.first), event->eventId,
+                                                       EventLoopTableId(event->tableId), event->startTime,
+                                                       event->duration, &event->descriptors});
+        }
         services.push_back({{"originalNetworkId", std::get<0>(entry.first)},
                             {"transportStreamId", std::get<1>(entry.first)},
                             {"serviceId", std::get<2>(entry.first)},

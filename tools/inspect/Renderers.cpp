@@ -212,6 +212,8 @@ public:
                 Descriptors(2, e["descriptors"]);
                 if (e.contains("undecoded"))
                     Line(2, "undecoded: " + e["undecoded"].get<std::string>());
+                if (e.contains("guide"))
+                    Object(2, "guide:", e["guide"]);
             }
         }
     }
