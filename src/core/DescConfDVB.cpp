@@ -406,14 +406,14 @@ TCBaseDesc* TCDescConfJPN::NewDescriptor(int tag, const unsigned char* data, uns
 {
     switch (tag) {
     case 0xC1: return new TCDescDigitalCopyControl();
+    case 0xC9: return new TCDescDownloadContent();
+    case 0xCE: return new TCDescExtendedBroadcaster();
     case 0xD5: return new TCDescSeries();
     case 0xD6: return new TCDescEventGroup();
     case 0xD9: return new TCDescComponentGroup();
+    case 0xDA: return new TCDescSIPrimeTS();
     case 0xDB: return new TCDescBoardInformation();
     case 0xDE: return new TCDescContentAvailability();
-    case 0xC9: return new TCDescDownloadContent();
-    case 0xCE: return new TCDescExtendedBroadcaster();
-    case 0xDA: return new TCDescSIPrimeTS();
     default: return TCDescConfISDB::NewDescriptor(tag, data, pds);
     }
 }

@@ -20,11 +20,11 @@
 #include "../dvb/DescLinkage.h"
 #include "../dvb/DescPrivateDataSpecifier.h"
 #include "../dvb/DescServiceMove.h"
-#include "../isdb/DescAudioComponent.h"
-#include "../isdb/DescDigitalCopyControl.h"
 #include "../isdb/DescARIBTerrestrialDeliverySystem.h"
+#include "../isdb/DescAudioComponent.h"
 #include "../isdb/DescCAContractInfo.h"
 #include "../isdb/DescCarouselIdent.h"
+#include "../isdb/DescDigitalCopyControl.h"
 #include "../isdb/DescEmergencyInformation.h"
 #include "../isdb/DescExtendedBroadcaster.h"
 #include "../operators/DescTKGSComponent.h"
@@ -126,13 +126,13 @@ TCBaseDesc* TCDescConfPsiISDB::NewDescriptor(int tag, const unsigned char* data,
 {
     switch (tag) {
     case 0x55: return new TCDescParentalRating();
-    case 0xC1: return new TCDescDigitalCopyControl();
-    case 0xDE: return new TCDescContentAvailability();
     case 0xC0: return new TCDescHierarchicalTransmission();
+    case 0xC1: return new TCDescDigitalCopyControl();
     case 0xC6: return new TCDescTargetRegionJPN();
     case 0xCA: return new TCDescCA_EMM_TS();
     case 0xCB: return new TCDescCAContractInfo();
     case 0xCC: return new TCDescCAService();
+    case 0xDE: return new TCDescContentAvailability();
     case 0xFC: return new TCDescEmergencyInformation();
     case 0xFD: return new TCDescDataComponent();
     default: return TCDescConfPsiDVB::NewDescriptor(tag, data, pds);

@@ -648,10 +648,10 @@ Json DescribeDescriptor(const TCBaseDesc& desc, const TextDecoder& text)
         out["fields"] = freesat;
     else if (Json targeting = DescribeTargeting(desc, text); !targeting.is_null())
         out["fields"] = targeting;
-    else if (Json isdb = DescribeIsdbEventDescriptor(desc, text); !isdb.is_null())
-        out["fields"] = isdb;
     else if (Json isdbNet = DescribeIsdbNetDescriptor(desc, text); !isdbNet.is_null())
         out["fields"] = isdbNet;
+    else if (Json isdbEvent = DescribeIsdbEventDescriptor(desc, text); !isdbEvent.is_null())
+        out["fields"] = isdbEvent;
     else
         out["raw"] = RawHex(desc);
     return out;
