@@ -105,8 +105,6 @@ Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
     // Astra's service lists come on a private-section stream of the PMT.
     if (tableId == kTidSgt && pid != kPidEit && m_privateSectionPids.count(pid) > 0)
         return Kind::Sgt;
-    // 0x85 is a compressed EIT on the EIT PID and the channel number table anywhere else.
-    if (IsEit(tableId) && (pid == kPidEit || (any && tableId != kTidLcn)))
     // 0x85 is a compressed EIT on the EIT PID and the channel number table
     // anywhere else; without a PID the section decides (m_KindOfSection).
     if (IsEit(tableId) && (pid == kPidEit || IsIsdbEitPid(m_handle, pid) || (any && !IsCompressedEitRange(tableId))))
