@@ -321,6 +321,10 @@ void DescriptorLoop(benchmark::State& state)
 void RegisterDvbpsi(Family family)
 {
     switch (family) {
+    case Family::Svct:
+    case Family::Aeit:
+    case Family::Sgt:
+    case Family::Tkgs: break; // not decoded by this library
     case Family::EitScheduleCompressed: break; // table id 0x80 is not an EIT to libdvbpsi
     case Family::DescriptorLoop: Register(family, kDvbpsi, DescriptorLoop); break;
     default: Register(family, kDvbpsi, [family](benchmark::State& state) { Tables(state, family); }); break;

@@ -276,6 +276,10 @@ void RegisterGStreamer(Family family)
 {
     Initialize();
     switch (family) {
+    case Family::Svct:
+    case Family::Aeit:
+    case Family::Sgt:
+    case Family::Tkgs: break; // not decoded by this library
     case Family::EitScheduleCompressed: break; // table id 0x80 is not an EIT to GStreamer
     case Family::DescriptorLoop: Register(family, kGStreamer, DescriptorLoop); break;
     default: Register(family, kGStreamer, [family](benchmark::State& state) { Section(state, family); }); break;

@@ -3,6 +3,9 @@
 #include <cstdio>
 #include <map>
 
+#include "atsc/OobTestKit.h"
+#include "support/TkgsStream.h"
+
 namespace zumbench {
 
 namespace {
@@ -19,6 +22,9 @@ constexpr uint16_t kPidNit = 0x0010;
 constexpr uint16_t kPidSdt = 0x0011;
 constexpr uint16_t kPidEit = 0x0012;
 constexpr uint16_t kPidPsip = 0x1FFB;
+constexpr uint16_t kPidOob = 0x1FFC;
+constexpr uint16_t kPidSgt = 0x0100;
+constexpr uint16_t kPidTkgs = 0x1FF0;
 
 Bytes Text(const std::string& text)
 {
@@ -339,6 +345,126 @@ Bytes Tvct(unsigned version)
     return s.Build();
 }
 
+
+// ---- SVCT: a cable virtual channel map of 24 channels with their names -----
+// Out-of-band sections carry no version: the two "versions" differ in their
+// activation time, and so in their bytes.
+
+Bytes Svct(unsigned version)
+{
+    zumtest::ByteWriter w;
+    w.U8(0x01).U8(0x00).U16(0x1000);               // protocol 1, cable medium, VCM subtype, VCT id
+    w.U8(0x20).U8(0x00).U32(version).U8(kSvctChannels); // descriptors included, activation time
+    for (unsigned i = 0; i < kSvctChannels; ++i) {
+        char name[16];
+        std::snprintf(name, sizeof name, "ZUM %02u", i + 2);
+        w.U16(0xF000 | (i + 2)).U8(0x00);          // channel number; MPEG-2, normal channel
+        w.U16(0x1000 + i).U8(1 + i / 8);           // source id, carrier (CDS) index
+        w.U16(0x0101 + i % 8).U8(2);               // program number, modulation (MMS) index
+        const Bytes longName = Concat({{0x01}, Text("eng"), {0x01, 0x00, 0x00, static_cast<uint8_t>(std::string(name).size())},
+                                       Text(name)});
+        w.U8(1).Raw(Desc(0xA0, longName));
+    }
+    return zumtest::OobSection(0xC4, w.Data());
+}
+
+// ---- AEIT: a cable guide slot, 2 sections of 4 sources with 6 events each ---
+
+std::vector<Bytes> Aeit(unsigned version)
+{
+    static const char* const kTitles[] = {"Evening News", "Weather", "Movie: The Long Road", "Late Show",
+                                          "Documentary", "Sports Tonight"};
+    std::vector<Bytes> sections;
+    for (unsigned section = 0; section < 2; ++section) {
+        SectionBuilder s(zumtest::LongHeader(0xD6, 0x0100, version, section, 1));
+        s.U8(kAeitSources);
+        for (unsigned src = 0; src < kAeitSources; ++src) {
+            s.U16(0x1000 + section * kAeitSources + src).U8(kAeitEventsPerSource);
+            for (unsigned e = 0; e < kAeitEventsPerSource; ++e) {
+                const std::string title = kTitles[e];
+                const Bytes mss = Concat({{0x01}, Text("eng"), {0x01, 0x00, 0x00, static_cast<uint8_t>(title.size())},
+                                          Text(title)});
+                s.U16(0xC000 | (e + 1)).U32(1'300'000'000 + e * 1800).U24(0xC00000 | (1u << 20) | 1800);
+                s.U8(static_cast<unsigned>(mss.size())).Raw(mss);
+                // Caption service: one line 21 service in English.
+                s.Begin16().Descriptor(0x86, Concat({{0xC1}, Text("eng"), {0x3F, 0xFF, 0xFF}})).End();
+            }
+        }
+        sections.push_back(s.Build());
+    }
+    return sections;
+}
+
+// ---- SGT: an Astra service list of 60 services over two sections ------------
+
+std::vector<Bytes> Sgt(unsigned version)
+{
+    constexpr unsigned kSections = 2;
+    constexpr unsigned kPerSection = kSgtServices / kSections;
+    std::vector<Bytes> sections;
+    for (unsigned section = 0; section < kSections; ++section) {
+        SectionBuilder s(zumtest::LongHeader(0x91, 0x0007, version, section, kSections - 1));
+        s.U16(0xFFFF).Begin16().Descriptor(0x88, Concat({Text("deu"), Text("HD+")})).End();
+        s.Begin16(12, 0xF000);
+        for (unsigned i = 0; i < kPerSection; ++i) {
+            const unsigned n = section * kPerSection + i;
+            s.U16(0x2000 + n).U16(0x0400 + n / 10).U16(0x0001);
+            s.U16(((n + 1) << 2) | 0x02 | (n % 7 == 0 ? 1 : 0)).U16(0x0102); // channel number, visible, new
+            s.Begin16().End();
+        }
+        s.End();
+        sections.push_back(s.Build());
+    }
+    return sections;
+}
+
+// ---- TKGS: an operator's line-up, 4 transports of 6 services, 2 lists -------
+
+Bytes TkgsSdt(unsigned tsid)
+{
+    SectionBuilder s(zumtest::LongHeader(0x42, tsid, 1));
+    s.U16(0x0001).U8(0xFF);
+    for (unsigned i = 0; i < 6; ++i) {
+        s.U16(tsid + i).U8(0xFD).Begin16(12, 0x8000);
+        s.Descriptor(0x48, Concat({{0x01, 4}, Text("TKGS"), {6}, Text("Kanal" + std::to_string(i))})).End();
+    }
+    return s.Build();
+}
+
+Bytes TkgsPmt(unsigned program)
+{
+    SectionBuilder s(zumtest::LongHeader(0x02, program, 1));
+    s.U16(0xE100).Begin16().End();
+    s.U8(0x1B).U16(0xE101).Begin16().End();
+    s.U8(0x03).U16(0xE102).Begin16().Descriptor(0x0A, Concat({Text("tur"), {0x00}})).End();
+    return s.Build();
+}
+
+std::vector<Bytes> Tkgs(unsigned version)
+{
+    const Bytes satellite = Desc(0x43, {0x01, 0x19, 0x20, 0x00, 0x00, 0x42, 0x81, 0x02, 0x75, 0x00, 0x03});
+    zumtest::TkgsStream stream;
+    stream.infoTexts = {{"tur", "TKGS"}};
+    stream.sourceData = {0x01, 0x02};
+    zumtest::TkgsServiceList national{{{"tur", "Ulusal"}, {"eng", "National"}}, {}};
+    zumtest::TkgsServiceList news{{{"tur", "Haber"}}, {}};
+    for (unsigned t = 0; t < kTkgsServices / 6; ++t) {
+        const unsigned tsid = 0x100 * (t + 1);
+        zumtest::TkgsTransport transport{satellite, {TkgsSdt(tsid)}, {}};
+        for (unsigned i = 0; i < 6; ++i) {
+            const unsigned id = t * 6 + i + 1;
+            transport.pmts.push_back({id, TkgsPmt(tsid + i)});
+            national.numbers.push_back({id, id});
+            if (i == 0)
+                news.numbers.push_back({t + 1, id});
+        }
+        stream.transports.push_back(transport);
+    }
+    stream.lists = {national, news};
+    stream.categories = Desc(0x92, {0xF0, 0x05, 't', 'u', 'r', 5, 'H', 'a', 'b', 'e', 'r'});
+    return zumtest::TkgsSections(zumtest::TkgsStreamBytes(stream), version, 1000);
+}
+
 Table Make(Family family)
 {
     Table t;
@@ -360,6 +486,10 @@ Table Make(Family family)
         case Family::DescriptorLoop: t.pid = kPidEit; t.tableId = 0x4E; t.versions[v] = {RichEventLoop(1)}; break;
         case Family::Mgt: t.pid = kPidPsip; t.tableId = 0xC7; t.versions[v] = {Mgt(version)}; break;
         case Family::Tvct: t.pid = kPidPsip; t.tableId = 0xC8; t.versions[v] = {Tvct(version)}; break;
+        case Family::Svct: t.pid = kPidOob; t.tableId = 0xC4; t.versions[v] = {Svct(version)}; break;
+        case Family::Aeit: t.pid = kPidOob; t.tableId = 0xD6; t.versions[v] = Aeit(version); break;
+        case Family::Sgt: t.pid = kPidSgt; t.tableId = 0x91; t.versions[v] = Sgt(version); break;
+        case Family::Tkgs: t.pid = kPidTkgs; t.tableId = 0xA7; t.versions[v] = Tkgs(version); break;
         }
     }
     return t;
@@ -381,7 +511,8 @@ const std::vector<Family>& AllFamilies()
                                             Family::Nit,         Family::Bat,         Family::Sdt,
                                             Family::EitPf,       Family::EitSchedule,
                                             Family::EitScheduleCompressed, Family::DescriptorLoop,
-                                            Family::Mgt,         Family::Tvct};
+                                            Family::Mgt,         Family::Tvct,
+                                            Family::Svct,        Family::Aeit,        Family::Sgt,         Family::Tkgs};
     return all;
 }
 
@@ -399,6 +530,10 @@ const char* FamilyName(Family family)
     case Family::DescriptorLoop: return "DescLoop";
     case Family::Mgt: return "MGT";
     case Family::Tvct: return "TVCT";
+    case Family::Svct: return "SVCT";
+    case Family::Aeit: return "AEIT";
+    case Family::Sgt: return "SGT";
+    case Family::Tkgs: return "TKGS";
     }
     return "?";
 }
@@ -417,6 +552,10 @@ int DecodedByPeers(Family family)
     case Family::DescriptorLoop: return kDescriptorLoopDescriptors;
     case Family::Mgt: return kMgtTables;
     case Family::Tvct: return kTvctChannels;
+    case Family::Svct:
+    case Family::Aeit:
+    case Family::Sgt:
+    case Family::Tkgs: return -1;
     }
     return -1;
 }

@@ -17,7 +17,11 @@ namespace zumbench {
 
 using zumtest::Bytes;
 
-enum class Family { Pat, Pmt, Nit, Bat, Sdt, EitPf, EitSchedule, EitScheduleCompressed, DescriptorLoop, Mgt, Tvct };
+enum class Family {
+    Pat, Pmt, Nit, Bat, Sdt, EitPf, EitSchedule, EitScheduleCompressed, DescriptorLoop, Mgt, Tvct,
+    // Tables no peer decodes: timed against the floor only.
+    Svct, Aeit, Sgt, Tkgs,
+};
 
 const std::vector<Family>& AllFamilies();
 const char* FamilyName(Family family);
@@ -56,6 +60,12 @@ constexpr int kEitScheduleEventsPerSection = 10;
 constexpr int kDescriptorLoopDescriptors = 7;
 constexpr int kMgtTables = 19;
 constexpr int kTvctChannels = 8;
+constexpr int kSvctChannels = 24;
+constexpr int kAeitSources = 4;
+constexpr int kAeitEventsPerSource = 6;
+constexpr int kSgtServices = 60;
+constexpr int kTkgsServices = 24;
+constexpr int kTkgsLists = 2;
 
 // What a peer's pass must decode, so that no benchmark times a refusal: the
 // descriptors that the library decodes into objects (the PAT: its programs;

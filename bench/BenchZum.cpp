@@ -3,11 +3,15 @@
 // version change; the parser drops the old table and decodes the new one.
 
 #include <cstring>
+#include <functional>
 #include <memory>
 
 #include <zum-platform/PlatformConfig.h>
 
+#include <zum-parser/atsc/AEITParser.h>
 #include <zum-parser/atsc/MGTParser.h>
+#include <zum-parser/atsc/SVCTParser.h>
+#include <zum-parser/atsc/SVCTParserVCM.h>
 #include <zum-parser/atsc/VCTParser.h>
 #include <zum-parser/core/Descriptor.h>
 #include <zum-parser/core/DescriptorHash.h>
@@ -15,6 +19,8 @@
 #include <zum-parser/dvb/DVBEITParser.h>
 #include <zum-parser/dvb/DVBNITParser.h>
 #include <zum-parser/dvb/DVBSDTParser.h>
+#include <zum-parser/dvb/DVBSGTParser.h>
+#include <zum-parser/dvb/DVBTKGSParser.h>
 #include <zum-parser/psi/PATParser.h>
 #include <zum-parser/psi/PMTParser.h>
 
@@ -224,17 +230,26 @@ void DescriptorLoop(benchmark::State& state)
     RunPasses(state, table, [&](uint64_t) { benchmark::DoNotOptimize(decode()); });
 }
 
-// The PSIP tables are read as a North American receiver reads them: under an
-// ATSC country, which picks the PSIP descriptor factory.
-class AtscCountry {
+// The receiver settings a family is read under, restored afterwards.
+class BinderAs {
 public:
-    AtscCountry() : m_saved(zum_platform::Binder().countryCode) { zum_platform::Binder().countryCode = ZumPackCode("USA"); }
-    ~AtscCountry() { zum_platform::Binder().countryCode = m_saved; }
-    AtscCountry(const AtscCountry&) = delete;
-    AtscCountry& operator=(const AtscCountry&) = delete;
+    explicit BinderAs(const std::function<void(zum_platform::BinderSettings&)>& set) : m_saved(zum_platform::Binder())
+    {
+        set(zum_platform::Binder());
+    }
+    ~BinderAs() { zum_platform::SetBinder(m_saved); }
+    BinderAs(const BinderAs&) = delete;
+    BinderAs& operator=(const BinderAs&) = delete;
 
 private:
-    ECountryCode m_saved;
+    zum_platform::BinderSettings m_saved;
+};
+
+// The PSIP and out-of-band tables are read as a North American receiver reads
+// them: under an ATSC country, which picks the PSIP descriptor factory.
+class AtscCountry : public BinderAs {
+public:
+    AtscCountry() : BinderAs([](zum_platform::BinderSettings& b) { b.countryCode = ZumPackCode("USA"); }) {}
 };
 
 void Mgt(benchmark::State& state)
@@ -263,6 +278,71 @@ void Tvct(benchmark::State& state)
     RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
 }
 
+void Svct(benchmark::State& state)
+{
+    const AtscCountry country;
+    const Table& table = TableOf(Family::Svct);
+    TCSVCTParser parser(kHandle);
+    auto pass = [&](uint64_t n) {
+        // No version to change: a receiver re-acquiring the channel map starts afresh.
+        parser.Initialize();
+        Feed(parser, table, n);
+        return parser.VCM() ? parser.VCM()->VCSize() : 0;
+    };
+    if (pass(0) != kSvctChannels || pass(1) != kSvctChannels)
+        return state.SkipWithError("SVCT not decoded");
+    // Per pass: 24 virtual channel records, each with its extended channel name.
+    RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(pass(n)); });
+}
+
+void Aeit(benchmark::State& state)
+{
+    const AtscCountry country;
+    const Table& table = TableOf(Family::Aeit);
+    TCAEITParser parser(kHandle);
+    parser.Initialize();
+    const auto events = [&] {
+        const TCAEITParserTag* tag = parser.AEITParserTag(0);
+        const TCAEITSourceMap* sources = tag ? tag->AEITParserSourceList(1) : nullptr;
+        return sources && !sources->empty() ? sources->begin()->second->SizeOfAEITParserEvent() : 0;
+    };
+    if (!Prime(parser, table) || events() != kAeitEventsPerSource)
+        return state.SkipWithError("AEIT not decoded");
+    // Per pass: a version change, 48 events of 8 sources, each keeping its
+    // title and descriptor loop.
+    RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
+}
+
+void Sgt(benchmark::State& state)
+{
+    const BinderAs astra([](zum_platform::BinderSettings& b) { b.privateDataSpecifier = 1; });
+    const Table& table = TableOf(Family::Sgt);
+    TCDVBSGTParser parser(kHandle);
+    parser.Initialize();
+    if (!Prime(parser, table) || !parser.Instance(0x0007) || parser.Instance(0x0007)->NumOfServices() != kSgtServices)
+        return state.SkipWithError("SGT not decoded");
+    // Per pass: a version change of one list, 60 services with channel numbers and flags.
+    RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
+}
+
+void Tkgs(benchmark::State& state)
+{
+    const BinderAs turkey([](zum_platform::BinderSettings& b) {
+        b.countryCode = ZumPackCode("TUR");
+        b.country = ECOUNTRY_TURKEY;
+        b.privateDataSpecifier = 0x011FFFFF;
+    });
+    const Table& table = TableOf(Family::Tkgs);
+    TCDVBTKGSParser parser(kHandle);
+    parser.Initialize();
+    if (!Prime(parser, table) || parser.NumOfServiceLists() != static_cast<unsigned>(kTkgsLists) ||
+        parser.ServiceKeys().size() != static_cast<size_t>(kTkgsServices))
+        return state.SkipWithError("TKGS not decoded");
+    // Per pass: a version change; the stream joined from its sections, four
+    // transports with their SDT and six PMTs each fed to inner parsers, two lists.
+    RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
+}
+
 } // namespace
 
 void RegisterZum(Family family)
@@ -282,6 +362,10 @@ void RegisterZum(Family family)
     case Family::DescriptorLoop: Register(family, kZum, DescriptorLoop); break;
     case Family::Mgt: Register(family, kZum, Mgt); break;
     case Family::Tvct: Register(family, kZum, Tvct); break;
+    case Family::Svct: Register(family, kZum, Svct); break;
+    case Family::Aeit: Register(family, kZum, Aeit); break;
+    case Family::Sgt: Register(family, kZum, Sgt); break;
+    case Family::Tkgs: Register(family, kZum, Tkgs); break;
     }
 }
 

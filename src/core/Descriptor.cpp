@@ -65,10 +65,10 @@ bool TCDescriptorBase::SetCachedPDSD(unsigned int pds)
 TCDescConfBase* TCDescriptorBase::m_Conf(unsigned char tableId)
 {
     if (m_confTableId != tableId || !m_pConf) {
-        m_pConf.reset(t_GetDescConf(tableId));
+        m_pConf = t_MakeDescConf(tableId, m_confSlot);
         m_confTableId = tableId;
     }
-    return m_pConf.get();
+    return m_pConf;
 }
 
 int TCDescriptorBase::Parse(const unsigned char* data, int length, TCDescriptorHash& hash, unsigned char tableId)
@@ -247,68 +247,145 @@ bool TCDescriptorDVB::t_CheckLinkageDescriptor(TCBaseDesc* desc, unsigned int pd
     return true;
 }
 
-TCDescConfBase* TCDescriptorDVB::t_GetDescConf(unsigned char tableId)
+namespace {
+
+// A factory made either on the heap for the caller to own (t_GetDescConf) or
+// in a walker's slot: one selection table per system serves both.
+struct TTNewConf {
+    template <class T, class... A> TCDescConfBase* Make(const A&... a) const { return new T(a...); }
+};
+struct TTConfInSlot {
+    TTDescConfSlot& slot;
+    template <class T, class... A> TCDescConfBase* Make(const A&... a) const { return &slot.emplace<T>(a...); }
+};
+
+template <class Maker> TCDescConfBase* DVBConf(unsigned char tableId, const ZUMHandle& handle, const Maker& make)
 {
     switch (tableId) {
     case 0x01:
-    case 0x02: return new TCDescConfPsiDVB(m_handle);
+    case 0x02: return make.template Make<TCDescConfPsiDVB>(handle);
     case 0x40: case 0x41: case 0x42: case 0x46: case 0x4A: case 0x4B: case 0x4E: case 0x4F:
     case 0x50: case 0x51: case 0x60: case 0x61: case 0x70: case 0x73: case 0x76: case 0x80:
     case 0x81: case 0x85: case 0x90: case 0xA7: case 0xBC: case 0xBD: case 0xD5:
-        return new TCDescConfDVB(m_handle);
-    case 0x74: return new TCDescConfDS();
-    case 0x91: return new TCDescConfAstra(m_handle);
+        return make.template Make<TCDescConfDVB>(handle);
+    case 0x74: return make.template Make<TCDescConfDS>();
+    case 0x91: return make.template Make<TCDescConfAstra>(handle);
     default: return nullptr;
     }
+}
+
+template <class Maker> TCDescConfBase* ISDBConf(unsigned char tableId, const ZUMHandle& handle, const Maker& make)
+{
+    switch (tableId) {
+    case 0x01:
+    case 0x02: return make.template Make<TCDescConfPsiISDB>(kZUMDefaultHandle);
+    case 0x40: case 0x41: case 0x42: case 0x46: case 0x4E: case 0x4F: case 0x50: case 0x51:
+    case 0x60: case 0x61: case 0x70: case 0x73: case 0x80: case 0x81: case 0x90: case 0x91:
+    case 0xC3:
+        return make.template Make<TCDescConfISDB>(handle);
+    case 0x74: return make.template Make<TCDescConfDS>();
+    default: return nullptr;
+    }
+}
+
+template <class Maker> TCDescConfBase* JPNConf(unsigned char tableId, const ZUMHandle& handle, const Maker& make)
+{
+    switch (tableId) {
+    case 0x40: case 0x41: case 0x42: case 0x46: case 0x4E: case 0x4F: case 0x50: case 0x51:
+    case 0x60: case 0x61: case 0x70: case 0x73: case 0xC3: case 0xC4: case 0xC5: case 0xC6:
+        return make.template Make<TCDescConfJPN>(handle);
+    default: return ISDBConf(tableId, handle, make);
+    }
+}
+
+template <class Maker> TCDescConfBase* ATSCConf(unsigned char tableId, const Maker& make)
+{
+    switch (tableId) {
+    case 0x02: return make.template Make<TCDescConfPsiATSC>();
+    case 0x74: return make.template Make<TCDescConfDS>();
+    case 0xC7: case 0xC8: case 0xC9: case 0xCA: case 0xCB: case 0xCD: case 0xD8:
+        return make.template Make<TCDescConfPSIP>();
+    // Out-of-band tables: without a factory their records' descriptors could not be stepped over.
+    case 0xC2: case 0xC3: case 0xC4: case 0xC5: case 0xD6: case 0xD7:
+        return make.template Make<TCDescConfOOB>();
+    default: return nullptr;
+    }
+}
+
+template <class Maker> TCDescConfBase* KRConf(unsigned char tableId, const Maker& make)
+{
+    if (tableId == 0x02)
+        return make.template Make<TCDescConfPsiKR>();
+    return ATSCConf(tableId, make);
+}
+
+} // namespace
+
+TCDescConfBase* TCDescriptorBase::t_MakeDescConf(unsigned char tableId, TTDescConfSlot& slot)
+{
+    return slot.emplace<std::unique_ptr<TCDescConfBase>>(t_GetDescConf(tableId)).get();
+}
+
+// Each built-in system makes its factory in place only when it is the walker
+// itself: a subclass may override t_GetDescConf, and then that one is asked.
+
+TCDescConfBase* TCDescriptorDVB::t_GetDescConf(unsigned char tableId)
+{
+    return DVBConf(tableId, m_handle, TTNewConf{});
+}
+
+TCDescConfBase* TCDescriptorDVB::t_MakeDescConf(unsigned char tableId, TTDescConfSlot& slot)
+{
+    return t_IsExactly(typeid(TCDescriptorDVB)) ? DVBConf(tableId, m_handle, TTConfInSlot{slot})
+                                                  : TCDescriptorBase::t_MakeDescConf(tableId, slot);
 }
 
 // ---------------------------------------------------------------- ISDB, JPN
 
 TCDescConfBase* TCDescriptorISDB::t_GetDescConf(unsigned char tableId)
 {
-    switch (tableId) {
-    case 0x01:
-    case 0x02: return new TCDescConfPsiISDB(kZUMDefaultHandle);
-    case 0x40: case 0x41: case 0x42: case 0x46: case 0x4E: case 0x4F: case 0x50: case 0x51:
-    case 0x60: case 0x61: case 0x70: case 0x73: case 0x80: case 0x81: case 0x90: case 0x91:
-    case 0xC3:
-        return new TCDescConfISDB(m_handle);
-    case 0x74: return new TCDescConfDS();
-    default: return nullptr;
-    }
+    return ISDBConf(tableId, m_handle, TTNewConf{});
+}
+
+TCDescConfBase* TCDescriptorISDB::t_MakeDescConf(unsigned char tableId, TTDescConfSlot& slot)
+{
+    return t_IsExactly(typeid(TCDescriptorISDB)) ? ISDBConf(tableId, m_handle, TTConfInSlot{slot})
+                                                  : TCDescriptorBase::t_MakeDescConf(tableId, slot);
 }
 
 TCDescConfBase* TCDescriptorJPN::t_GetDescConf(unsigned char tableId)
 {
-    switch (tableId) {
-    case 0x40: case 0x41: case 0x42: case 0x46: case 0x4E: case 0x4F: case 0x50: case 0x51:
-    case 0x60: case 0x61: case 0x70: case 0x73: case 0xC3: case 0xC4: case 0xC5: case 0xC6:
-        return new TCDescConfJPN(m_handle);
-    default: return TCDescriptorISDB::t_GetDescConf(tableId);
-    }
+    return JPNConf(tableId, m_handle, TTNewConf{});
+}
+
+TCDescConfBase* TCDescriptorJPN::t_MakeDescConf(unsigned char tableId, TTDescConfSlot& slot)
+{
+    return t_IsExactly(typeid(TCDescriptorJPN)) ? JPNConf(tableId, m_handle, TTConfInSlot{slot})
+                                                  : TCDescriptorBase::t_MakeDescConf(tableId, slot);
 }
 
 // ---------------------------------------------------------------- ATSC, KR
 
 TCDescConfBase* TCDescriptorATSC::t_GetDescConf(unsigned char tableId)
 {
-    switch (tableId) {
-    case 0x02: return new TCDescConfPsiATSC();
-    case 0x74: return new TCDescConfDS();
-    case 0xC7: case 0xC8: case 0xC9: case 0xCA: case 0xCB: case 0xCD: case 0xD8:
-        return new TCDescConfPSIP();
-    // Out-of-band tables: without a factory their records' descriptors could not be stepped over.
-    case 0xC2: case 0xC3: case 0xC4: case 0xC5: case 0xD6: case 0xD7:
-        return new TCDescConfOOB();
-    default: return nullptr;
-    }
+    return ATSCConf(tableId, TTNewConf{});
+}
+
+TCDescConfBase* TCDescriptorATSC::t_MakeDescConf(unsigned char tableId, TTDescConfSlot& slot)
+{
+    return t_IsExactly(typeid(TCDescriptorATSC)) ? ATSCConf(tableId, TTConfInSlot{slot})
+                                                  : TCDescriptorBase::t_MakeDescConf(tableId, slot);
 }
 
 TCDescConfBase* TCDescriptorKR::t_GetDescConf(unsigned char tableId)
 {
-    if (tableId == 0x02)
-        return new TCDescConfPsiKR();
-    return TCDescriptorATSC::t_GetDescConf(tableId);
+    return KRConf(tableId, TTNewConf{});
+}
+
+TCDescConfBase* TCDescriptorKR::t_MakeDescConf(unsigned char tableId, TTDescConfSlot& slot)
+{
+    return t_IsExactly(typeid(TCDescriptorKR)) ? KRConf(tableId, TTConfInSlot{slot})
+                                                  : TCDescriptorBase::t_MakeDescConf(tableId, slot);
 }
 
 // ---------------------------------------------------------------- country switch

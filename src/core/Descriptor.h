@@ -2,6 +2,7 @@
 #define ZUM_CORE_DESCRIPTOR_H
 
 #include <memory>
+#include <typeinfo>
 #include <variant>
 
 #include <zum-platform/ZUMHandle.h>
@@ -9,6 +10,18 @@
 #include "DescriptorHash.h"
 
 #include "DescConfBase.h"
+#include "DescConfDS.h"
+#include "DescConfDVB.h"
+#include "DescConfOOB.h"
+#include "DescConfPSIBase.h"
+#include "DescConfPSIP.h"
+
+// Where a walker keeps the factory of its table scope: a built-in system's
+// factory in place, so that a loop allocates nothing for it; any other owned.
+using TTDescConfSlot =
+    std::variant<std::monostate, std::unique_ptr<TCDescConfBase>, TCDescConfPsiDVB, TCDescConfPsiISDB,
+                 TCDescConfPsiATSC, TCDescConfPsiKR, TCDescConfDVB, TCDescConfAstra, TCDescConfISDB, TCDescConfJPN,
+                 TCDescConfDS, TCDescConfPSIP, TCDescConfOOB>;
 
 // Walks one descriptor loop: a factory per table scope makes an object per
 // tag, the object decodes itself and goes into the caller's hash. One object
@@ -20,6 +33,10 @@ public:
 
 protected:
     virtual TCDescConfBase* t_GetDescConf(unsigned char tableId) = 0;
+    // The factory the walk uses, made into `slot`; null when the scope has
+    // none. By default the owned one of t_GetDescConf; the built-in systems
+    // make theirs in place unless a subclass picks its own.
+    virtual TCDescConfBase* t_MakeDescConf(unsigned char tableId, TTDescConfSlot& slot);
     virtual void t_InitParse();
     // False skips the descriptor; may set the specifier the factory sees.
     virtual bool t_CheckAddingDesc(int tag, const unsigned char* data, unsigned int& pds);
@@ -49,13 +66,16 @@ protected:
     // reads no further.
     int t_LoopLeft() const { return m_loopLeft; }
     static void t_SetTableId(TCBaseDesc* desc, unsigned char tableId) { desc->m_tableId = tableId; }
+    // True when this walker is of exactly that class, not a subclass of it.
+    bool t_IsExactly(const std::type_info& type) const { return typeid(*this) == type; }
 
     unsigned int m_cachedPDSD = 0xFFFFFFFF;
 
 private:
     TCDescConfBase* m_Conf(unsigned char tableId);
 
-    std::unique_ptr<TCDescConfBase> m_pConf;
+    TTDescConfSlot m_confSlot;
+    TCDescConfBase* m_pConf = nullptr;
     int m_confTableId = -1;
     int m_loopLeft = 0;
 };
@@ -68,6 +88,7 @@ public:
 
 protected:
     TCDescConfBase* t_GetDescConf(unsigned char tableId) override;
+    TCDescConfBase* t_MakeDescConf(unsigned char tableId, TTDescConfSlot& slot) override;
     void t_InitParse() override;
     bool t_CheckAddingDesc(int tag, const unsigned char* data, unsigned int& pds) override;
     bool t_checkContentDescriptor(TCBaseDesc* desc, unsigned int pds) override;
@@ -84,6 +105,7 @@ public:
 
 protected:
     TCDescConfBase* t_GetDescConf(unsigned char tableId) override;
+    TCDescConfBase* t_MakeDescConf(unsigned char tableId, TTDescConfSlot& slot) override;
     ZUMHandle m_handle;
 };
 
@@ -93,16 +115,19 @@ public:
 
 protected:
     TCDescConfBase* t_GetDescConf(unsigned char tableId) override;
+    TCDescConfBase* t_MakeDescConf(unsigned char tableId, TTDescConfSlot& slot) override;
 };
 
 class ZUM_EXPORT TCDescriptorATSC : public TCDescriptorBase {
 protected:
     TCDescConfBase* t_GetDescConf(unsigned char tableId) override;
+    TCDescConfBase* t_MakeDescConf(unsigned char tableId, TTDescConfSlot& slot) override;
 };
 
 class ZUM_EXPORT TCDescriptorKR : public TCDescriptorATSC {
 protected:
     TCDescConfBase* t_GetDescConf(unsigned char tableId) override;
+    TCDescConfBase* t_MakeDescConf(unsigned char tableId, TTDescConfSlot& slot) override;
 };
 
 // What a table parser constructs for each loop, or for the loops of one

@@ -1,5 +1,6 @@
 #include "DescriptorHash.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "Diagnostics.h"
@@ -42,7 +43,10 @@ const unsigned char* TCDescriptorHash::m_KeepBytes(const unsigned char* data, in
     size_t count = 0;
     for (int at = 0; at + 2 <= length; at += data[at + 1] + 2)
         ++count;
-    m_byArrival.reserve(m_byArrival.size() + count);
+    // A hash that keeps growing over many loops still grows geometrically.
+    const size_t need = m_byArrival.size() + count;
+    if (need > m_byArrival.capacity())
+        m_byArrival.reserve(std::max(need, 2 * m_byArrival.capacity()));
     return block + sizeof(unsigned char*);
 }
 
