@@ -70,8 +70,8 @@ for target in "${targets[@]}"; do
   log=$keep/logs/$target.log
   last=$(grep -E '^#[0-9]+.*cov: ' "$log" | tail -1 || true)
   # A run that stopped at a finding prints no final figures: its last status line tells.
-  execs=$(grep -o 'number_of_executed_units: [0-9]*' "$log" | grep -o '[0-9]*$' || grep -o '^#[0-9]*' <<<"$last" | tr -d '#' || echo '?')
-  speed=$(grep -o 'average_exec_per_sec: [0-9]*' "$log" | grep -o '[0-9]*$' || echo '?')
+  execs=$(grep -o 'number_of_executed_units: *[0-9]*' "$log" | grep -o '[0-9]*$' || grep -o '^#[0-9]*' <<<"$last" | tr -d '#' || echo '?')
+  speed=$(grep -o 'average_exec_per_sec: *[0-9]*' "$log" | grep -o '[0-9]*$' || echo '?')
   cov=$(grep -o 'cov: [0-9]*' <<<"$last" | grep -o '[0-9]*' || echo '?')
   ft=$(grep -o 'ft: [0-9]*' <<<"$last" | grep -o '[0-9]*' || echo '?')
   findings=$(ls "$keep/findings/$target" | wc -l)
