@@ -216,7 +216,7 @@ void Quiet(dvbpsi_t*, const dvbpsi_msg_level_t, const char*) {}
 // each section twice.
 int Carousels(Family family)
 {
-    return family == Family::EitPf || family == Family::EitSchedule ? 2 : 1;
+    return family == Family::EitPf || family == Family::EitSchedule || family == Family::EitIsdb ? 2 : 1;
 }
 
 // One decoder with its packets: pass n pushes the packets of version n & 1.
@@ -324,7 +324,8 @@ void RegisterDvbpsi(Family family)
     case Family::Svct:
     case Family::Aeit:
     case Family::Sgt:
-    case Family::Tkgs: break; // not decoded by this library
+    case Family::Tkgs:
+    case Family::Fst: break; // not decoded by this library
     case Family::EitScheduleCompressed: break; // table id 0x80 is not an EIT to libdvbpsi
     case Family::DescriptorLoop: Register(family, kDvbpsi, DescriptorLoop); break;
     default: Register(family, kDvbpsi, [family](benchmark::State& state) { Tables(state, family); }); break;

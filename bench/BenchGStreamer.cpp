@@ -215,6 +215,7 @@ int Pass(Family family, const Table& table, uint64_t n)
             break;
         case Family::EitPf:
         case Family::EitSchedule:
+        case Family::EitIsdb:
             if (const GstMpegtsEIT* eit = gst_mpegts_section_get_eit(section)) {
                 for (guint i = 0; i < eit->events->len; ++i)
                     count += ParseDescriptors(
@@ -279,7 +280,8 @@ void RegisterGStreamer(Family family)
     case Family::Svct:
     case Family::Aeit:
     case Family::Sgt:
-    case Family::Tkgs: break; // not decoded by this library
+    case Family::Tkgs:
+    case Family::Fst: break; // not decoded by this library
     case Family::EitScheduleCompressed: break; // table id 0x80 is not an EIT to GStreamer
     case Family::DescriptorLoop: Register(family, kGStreamer, DescriptorLoop); break;
     default: Register(family, kGStreamer, [family](benchmark::State& state) { Section(state, family); }); break;

@@ -25,6 +25,7 @@ constexpr uint16_t kPidPsip = 0x1FFB;
 constexpr uint16_t kPidOob = 0x1FFC;
 constexpr uint16_t kPidSgt = 0x0100;
 constexpr uint16_t kPidTkgs = 0x1FF0;
+constexpr uint16_t kPidFastScan = 0x0384;
 
 Bytes Text(const std::string& text)
 {
@@ -292,6 +293,60 @@ std::vector<Bytes> EitSchedule(unsigned version, bool compressed)
     return sections;
 }
 
+// ---- ISDB EIT: a Japanese schedule, as a BS broadcaster sends it -----------
+
+// Event names and texts in ARIB 8-unit code (kanji, kana and alphanumeric
+// sets with their designations and shifts), as Japanese broadcasts carry them.
+const char* const kAribTitles[] = {
+    "1b7cc6ecd3b7e7c3d4f3b0382635663d6a0e5456b7e7c3d4f3b0",
+    "456c4b4c3a320e54568920233232348a0f2121477a3e501b7ce6cbc3c8b3f3c8",
+    "1b242b3b1d7a6a0e56414ec70f3e21c1474fb5acb7c6dfdebbf3ab89200e233736",
+};
+const char* const kAribText =
+    "1b7cb8e5def3b889200e2d208afa1b7dbdeccfb3ce0f4024c73a47e2346d3831ca1b7cb2f9e00e210f21210e89313939358a0f472f3878332b";
+
+Bytes FromHex(const char* hex)
+{
+    Bytes out;
+    for (const char* p = hex; p[0] && p[1]; p += 2)
+        out.push_back(static_cast<uint8_t>(std::stoi(std::string(p, 2), nullptr, 16)));
+    return out;
+}
+
+// Short event, video component, audio component, data content, content,
+// digital copy control and event group: the loop of a BS schedule event.
+Bytes IsdbEventLoop(unsigned index)
+{
+    const Bytes title = FromHex(kAribTitles[index % 3]);
+    const Bytes text = FromHex(kAribText);
+    zumtest::ByteWriter w;
+    w.Descriptor(0x4D, Concat({Text("jpn"), {static_cast<uint8_t>(title.size())}, title,
+                               {static_cast<uint8_t>(text.size())}, text}));
+    w.Descriptor(0x50, Concat({{0x01, 0xB3, 0x00}, Text("jpn")}));                         // 1080i 16:9
+    w.Descriptor(0xC4, Concat({{0x02, 0x03, 0x10, 0x0F, 0xFF, 0x7E}, Text("jpn")}));       // AAC stereo, 48 kHz
+    w.Descriptor(0xC7, Concat({{0x00, 0x0C, 0x40, 0x00, 0x00}, Text("jpn"), {0x00}}));     // data broadcast
+    w.Descriptor(0x54, {static_cast<uint8_t>(0x10 * (index % 6)), 0xFF});
+    w.Descriptor(0xC1, {0xC0 | 0x0C | 0x01});                                              // copy once
+    w.Descriptor(0xD6, Concat({{0x11}, U16(kEitServiceId), U16(0x4000 + index)}));        // shared event
+    return w.Data();
+}
+
+// One segment of two sections with ten events each.
+std::vector<Bytes> IsdbEitSchedule(unsigned version)
+{
+    std::vector<Bytes> sections;
+    for (unsigned section = 0; section < 2; ++section) {
+        Bytes events;
+        for (unsigned i = 0; i < static_cast<unsigned>(kEitScheduleEventsPerSection); ++i) {
+            const unsigned n = section * kEitScheduleEventsPerSection + i;
+            const Bytes e = Event(0x4D00 + n, 30 * n, 30, 0, IsdbEventLoop(n));
+            events.insert(events.end(), e.begin(), e.end());
+        }
+        sections.push_back(EitSection(0x50, version, section, 1, events));
+    }
+    return sections;
+}
+
 // ---- PSIP: the MGT of a terrestrial station and its TVCT -----------------------
 
 zumtest::SectionHeader PsipHeader(unsigned tableId, unsigned extension, unsigned version)
@@ -418,6 +473,26 @@ std::vector<Bytes> Sgt(unsigned version)
     return sections;
 }
 
+// ---- FST: a fast-scan operator's 80 services over two sections, each named --
+
+std::vector<Bytes> Fst(unsigned version)
+{
+    constexpr unsigned kSections = 2;
+    constexpr unsigned kPerSection = kFstServices / kSections;
+    std::vector<Bytes> sections;
+    for (unsigned section = 0; section < kSections; ++section) {
+        SectionBuilder s(zumtest::LongHeader(0xBD, 0x0100, version, section, kSections - 1));
+        for (unsigned i = 0; i < kPerSection; ++i) {
+            const unsigned n = section * kPerSection + i;
+            s.U16(0x0001).U16(0x0400 + n / 10).U16(0x2000 + n);
+            s.U16(0xE000 | (0x100 + n)).U16(0xE000 | (0x200 + n)).U16(0xFFFF).U16(0xFFFF).U16(0xE000 | (0x100 + n));
+            s.Begin16().Descriptor(0x48, Concat({{0x01, 0x03}, Text("M7 "), {0x07}, Text("Channel")})).End();
+        }
+        sections.push_back(s.Build());
+    }
+    return sections;
+}
+
 // ---- TKGS: an operator's line-up, 4 transports of 6 services, 2 lists -------
 
 Bytes TkgsSdt(unsigned tsid)
@@ -486,10 +561,12 @@ Table Make(Family family)
         case Family::DescriptorLoop: t.pid = kPidEit; t.tableId = 0x4E; t.versions[v] = {RichEventLoop(1)}; break;
         case Family::Mgt: t.pid = kPidPsip; t.tableId = 0xC7; t.versions[v] = {Mgt(version)}; break;
         case Family::Tvct: t.pid = kPidPsip; t.tableId = 0xC8; t.versions[v] = {Tvct(version)}; break;
+        case Family::EitIsdb: t.pid = kPidEit; t.tableId = 0x50; t.versions[v] = IsdbEitSchedule(version); break;
         case Family::Svct: t.pid = kPidOob; t.tableId = 0xC4; t.versions[v] = {Svct(version)}; break;
         case Family::Aeit: t.pid = kPidOob; t.tableId = 0xD6; t.versions[v] = Aeit(version); break;
         case Family::Sgt: t.pid = kPidSgt; t.tableId = 0x91; t.versions[v] = Sgt(version); break;
         case Family::Tkgs: t.pid = kPidTkgs; t.tableId = 0xA7; t.versions[v] = Tkgs(version); break;
+        case Family::Fst: t.pid = kPidFastScan; t.tableId = 0xBD; t.versions[v] = Fst(version); break;
         }
     }
     return t;
@@ -511,8 +588,9 @@ const std::vector<Family>& AllFamilies()
                                             Family::Nit,         Family::Bat,         Family::Sdt,
                                             Family::EitPf,       Family::EitSchedule,
                                             Family::EitScheduleCompressed, Family::DescriptorLoop,
-                                            Family::Mgt,         Family::Tvct,
-                                            Family::Svct,        Family::Aeit,        Family::Sgt,         Family::Tkgs};
+                                            Family::Mgt,         Family::Tvct,        Family::EitIsdb,
+                                            Family::Svct,        Family::Aeit,        Family::Sgt,         Family::Tkgs,
+                                            Family::Fst};
     return all;
 }
 
@@ -530,10 +608,12 @@ const char* FamilyName(Family family)
     case Family::DescriptorLoop: return "DescLoop";
     case Family::Mgt: return "MGT";
     case Family::Tvct: return "TVCT";
+    case Family::EitIsdb: return "EIT-isdb";
     case Family::Svct: return "SVCT";
     case Family::Aeit: return "AEIT";
     case Family::Sgt: return "SGT";
     case Family::Tkgs: return "TKGS";
+    case Family::Fst: return "FST";
     }
     return "?";
 }
@@ -552,10 +632,12 @@ int DecodedByPeers(Family family)
     case Family::DescriptorLoop: return kDescriptorLoopDescriptors;
     case Family::Mgt: return kMgtTables;
     case Family::Tvct: return kTvctChannels;
+    case Family::EitIsdb: return 2 * kEitScheduleEventsPerSection * 3; // short event, component, content
     case Family::Svct:
     case Family::Aeit:
     case Family::Sgt:
-    case Family::Tkgs: return -1;
+    case Family::Tkgs:
+    case Family::Fst: return -1;
     }
     return -1;
 }

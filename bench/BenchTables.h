@@ -18,9 +18,9 @@ namespace zumbench {
 using zumtest::Bytes;
 
 enum class Family {
-    Pat, Pmt, Nit, Bat, Sdt, EitPf, EitSchedule, EitScheduleCompressed, DescriptorLoop, Mgt, Tvct,
+    Pat, Pmt, Nit, Bat, Sdt, EitPf, EitSchedule, EitScheduleCompressed, DescriptorLoop, Mgt, Tvct, EitIsdb,
     // Tables no peer decodes: timed against the floor only.
-    Svct, Aeit, Sgt, Tkgs,
+    Svct, Aeit, Sgt, Tkgs, Fst,
 };
 
 const std::vector<Family>& AllFamilies();
@@ -57,6 +57,8 @@ constexpr int kPmtDescriptors = 12;
 constexpr int kNitTransportStreams = 20;
 constexpr int kSdtServices = 40;
 constexpr int kEitScheduleEventsPerSection = 10;
+// The ISDB schedule (EIT-isdb) has as many events, each with seven descriptors.
+constexpr int kIsdbEventDescriptors = 7;
 constexpr int kDescriptorLoopDescriptors = 7;
 constexpr int kMgtTables = 19;
 constexpr int kTvctChannels = 8;
@@ -64,6 +66,7 @@ constexpr int kSvctChannels = 24;
 constexpr int kAeitSources = 4;
 constexpr int kAeitEventsPerSource = 6;
 constexpr int kSgtServices = 60;
+constexpr int kFstServices = 80;
 constexpr int kTkgsServices = 24;
 constexpr int kTkgsLists = 2;
 

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include <zum-platform/PlatformConfig.h>
 
@@ -19,6 +20,7 @@
 #include <zum-parser/dvb/DVBEITParser.h>
 #include <zum-parser/dvb/DVBNITParser.h>
 #include <zum-parser/dvb/DVBSDTParser.h>
+#include <zum-parser/dvb/DVBFSTParser.h>
 #include <zum-parser/dvb/DVBSGTParser.h>
 #include <zum-parser/dvb/DVBTKGSParser.h>
 #include <zum-parser/psi/PATParser.h>
@@ -149,6 +151,28 @@ void Sdt(benchmark::State& state)
     RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
 }
 
+// The receiver settings a family is read under, restored afterwards.
+class BinderAs {
+public:
+    explicit BinderAs(const std::function<void(zum_platform::BinderSettings&)>& set) : m_saved(zum_platform::Binder())
+    {
+        set(zum_platform::Binder());
+    }
+    ~BinderAs() { zum_platform::SetBinder(m_saved); }
+    BinderAs(const BinderAs&) = delete;
+    BinderAs& operator=(const BinderAs&) = delete;
+
+private:
+    zum_platform::BinderSettings m_saved;
+};
+
+// The PSIP and out-of-band tables are read as a North American receiver reads
+// them: under an ATSC country, which picks the PSIP descriptor factory.
+class AtscCountry : public BinderAs {
+public:
+    AtscCountry() : BinderAs([](zum_platform::BinderSettings& b) { b.countryCode = ZumPackCode("USA"); }) {}
+};
+
 // The EIT road of a receiver: the parser says which section is new, the
 // caller's item decodes its events; with `decodeLoops` each event's raw
 // descriptor loop then goes through a TCDescriptor, as the guide does when it
@@ -202,6 +226,10 @@ private:
 
 void Eit(benchmark::State& state, Family family, bool decodeLoops)
 {
+    // The ISDB schedule is read as a Japanese receiver reads it, by the ARIB factories.
+    std::optional<BinderAs> japan;
+    if (family == Family::EitIsdb)
+        japan.emplace([](zum_platform::BinderSettings& b) { b.countryCode = ZumPackCode("JPN"); });
     const Table& table = TableOf(family);
     EitReader reader(table.tableId, decodeLoops);
     const int events = family == Family::EitPf ? 2 : 2 * kEitScheduleEventsPerSection;
@@ -230,27 +258,6 @@ void DescriptorLoop(benchmark::State& state)
     RunPasses(state, table, [&](uint64_t) { benchmark::DoNotOptimize(decode()); });
 }
 
-// The receiver settings a family is read under, restored afterwards.
-class BinderAs {
-public:
-    explicit BinderAs(const std::function<void(zum_platform::BinderSettings&)>& set) : m_saved(zum_platform::Binder())
-    {
-        set(zum_platform::Binder());
-    }
-    ~BinderAs() { zum_platform::SetBinder(m_saved); }
-    BinderAs(const BinderAs&) = delete;
-    BinderAs& operator=(const BinderAs&) = delete;
-
-private:
-    zum_platform::BinderSettings m_saved;
-};
-
-// The PSIP and out-of-band tables are read as a North American receiver reads
-// them: under an ATSC country, which picks the PSIP descriptor factory.
-class AtscCountry : public BinderAs {
-public:
-    AtscCountry() : BinderAs([](zum_platform::BinderSettings& b) { b.countryCode = ZumPackCode("USA"); }) {}
-};
 
 void Mgt(benchmark::State& state)
 {
@@ -325,6 +332,19 @@ void Sgt(benchmark::State& state)
     RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
 }
 
+void Fst(benchmark::State& state)
+{
+    const Table& table = TableOf(Family::Fst);
+    ReportHeld<TCDVBFSTParser>(state, table, 0xBD, kHandle);
+    TCDVBFSTParser parser(0xBD, kHandle);
+    parser.Initialize();
+    if (!Prime(parser, table) || !parser.DVBFSTInstance(0x0100) ||
+        parser.DVBFSTInstance(0x0100)->NumOfDVBFSTItemService() != kFstServices)
+        return state.SkipWithError("FST not decoded");
+    // Per pass: a version change of one operator, 80 service records with their service descriptors.
+    RunPasses(state, table, [&](uint64_t n) { benchmark::DoNotOptimize(Feed(parser, table, n)); });
+}
+
 void Tkgs(benchmark::State& state)
 {
     const BinderAs turkey([](zum_platform::BinderSettings& b) {
@@ -356,6 +376,7 @@ void RegisterZum(Family family)
     case Family::EitPf:
     case Family::EitSchedule:
     case Family::EitScheduleCompressed:
+    case Family::EitIsdb:
         Register(family, kZum, [family](benchmark::State& state) { Eit(state, family, true); });
         Register(family, kZumRaw, [family](benchmark::State& state) { Eit(state, family, false); });
         break;
@@ -366,6 +387,7 @@ void RegisterZum(Family family)
     case Family::Aeit: Register(family, kZum, Aeit); break;
     case Family::Sgt: Register(family, kZum, Sgt); break;
     case Family::Tkgs: Register(family, kZum, Tkgs); break;
+    case Family::Fst: Register(family, kZum, Fst); break;
     }
 }
 

@@ -30,6 +30,8 @@
 #include "ReadOperatorFields.h"
 #include "operators/DescTKGSComponent.h"
 #include "ReadFSatFields.h"
+#include "ReadIsdbEventFields.h"
+#include "ReadIsdbNetFields.h"
 
 namespace fuzzfields {
 
@@ -51,9 +53,12 @@ inline void ReadLcn(IDescLogicalChannel& d)
 {
     std::list<unsigned short> numbers;
     std::set<unsigned short> ids;
+    std::list<unsigned short> polsatIds;
     for (unsigned short id : {0, 1, 7, 0xFFFF}) {
         Take(d.CheckServiceId(id, 0xFFFF00) + d.LogicalChannelNumber(id) + d.VisibleServiceFlag(id, 0));
         d.GetLogicalChannelNumberList(id, numbers);
+        unsigned short first = 0, second = 0;
+        Take(d.GetDPIds(id, first, second) + first + second + d.PolsatServiceId(id, polsatIds) + polsatIds.size());
     }
     d.ServiceIDList(ids);
     Take(d.NumOfServices(0));
@@ -214,6 +219,8 @@ inline void Read(TCBaseDesc* desc)
     if (auto* d = dynamic_cast<TCDescTKGSComponent*>(desc))
         Take(d->Flag() + d->Found());
     fsatfields::Read(desc);
+    isdbeventfields::ReadEventFamily(desc);
+    isdbnetfields::Read(desc);
 }
 
 } // namespace fuzzfields

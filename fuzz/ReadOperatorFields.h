@@ -5,13 +5,16 @@
 // their raw copy on access.
 
 #include <list>
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
 
 #include <zum-platform/UnicodeConverter.h>
 
+#include "operators/DescADBLCNv2Activate.h"
 #include "operators/DescAstraServiceListName.h"
+#include "operators/DescChannelOrder.h"
 #include "operators/DescCIPlusService.h"
 #include "operators/DescDSmartIdentifier.h"
 #include "operators/DescGTPLGenreList.h"
@@ -82,6 +85,27 @@ inline void ReadOperator(TCBaseDesc* desc)
         ELanguage language;
         g_sinkOperator += d->GetName(converter, language).size();
     }
+    if (auto* d = dynamic_cast<TCDescPolsatChannelListInfo*>(desc))
+        g_sinkOperator += d->GetChannelListInfo().update;
+    if (auto* d = dynamic_cast<TCDescEutelsatChannelNumber*>(desc)) {
+        std::multimap<TCServiceKey, unsigned short> services;
+        d->GetServices(services);
+        for (const auto& s : services)
+            g_sinkOperator += s.second;
+    }
+    if (auto* d = dynamic_cast<TCDescSogecablePrivateChannelList*>(desc)) {
+        unsigned short number = 0;
+        for (unsigned short id : {0, 1, 0xFFFF})
+            g_sinkOperator += d->GetChannelNumber(id, number) + number;
+    }
+    if (auto* d = dynamic_cast<TCDescNXTServiceOrder*>(desc))
+        for (int i = 0; i <= static_cast<int>(d->Count()); ++i)
+            g_sinkOperator += d->ServiceId(i) + d->ServiceOrder(i);
+    if (auto* d = dynamic_cast<TCDescOtauChannelOrder*>(desc))
+        for (unsigned short id : {0, 1, 0xFFFF})
+            g_sinkOperator += d->GetOrder(id);
+    if (auto* d = dynamic_cast<TCDescADBLCNv2Activate*>(desc))
+        g_sinkOperator += d->FirstByte() + d->SecondByte() + d->ID();
     if (auto* d = dynamic_cast<TCDescAstraBouquetList*>(desc)) {
         std::list<unsigned char*> names;
         if (d->Bouquets(names))

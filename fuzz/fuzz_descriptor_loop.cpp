@@ -23,9 +23,11 @@ namespace {
 const char* const kCountries[] = {"GBR", "DEU", "KOR", "JPN", "USA", "BRA", "cri", "PHL", "TUR", "CHN"};
 const unsigned char kTableIds[] = {0x01, 0x02, 0x40, 0x41, 0x42, 0x46, 0x4A, 0x4E, 0x50, 0x70, 0x73, 0x74,
                                    0x76, 0x80, 0x85, 0x91, 0xA7, 0xBD, 0xC3, 0xC4, 0xC7, 0xC8, 0xCA, 0xD5,
-                                   0xC9, 0xCB, 0xCD, 0xD8, 0xC2, 0xD6, 0xD7};
+                                   0xC9, 0xCB, 0xCD, 0xD8, 0xC2, 0xD6, 0xD7, 0x4B, 0xBC};
 const unsigned int kSpecifiers[] = {0,        1,        0x28,      0x40,       0x233A,    0x6001, 0x62E1, 0xBE,
-                                    0x2FFFFF, 0x6FFFFF, 0x9FFFFF, 0x11FFFFF, 0x46534154, 0xECCA0001};
+                                    0x2FFFFF, 0x6FFFFF, 0x9FFFFF, 0x11FFFFF, 0x46534154, 0xECCA0001,
+                                    0x3FFFFF, 0x4FFFFF, 0x5FFFFF, 0x1FFFFF, 0x55F,      0x6002,
+                                    0x41444250};
 
 } // namespace
 
@@ -37,6 +39,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     settings.countryCode = ZumPackCode(kCountries[data[0] % (sizeof kCountries / sizeof kCountries[0])]);
     settings.country = static_cast<ECountry>(data[0] & 0x1F);
     settings.operatorId = (data[0] & 0x80) ? 113 : ((data[0] & 0x40) ? 86 : ((data[2] & 0x40) ? 70 : 68));
+    // AirTel's rows under 0x00006001.
+    if (settings.operatorId == 68 && (data[1] & 0x80))
+        settings.operatorId = 90;
     settings.privateDataSpecifier = kSpecifiers[data[2] % (sizeof kSpecifiers / sizeof kSpecifiers[0])];
     const bool refuseOdd = data[2] & 0x80;
     settings.acceptSpecifier = [refuseOdd](unsigned int pds) { return !refuseOdd || (pds & 1) == 0; };
@@ -69,6 +74,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     for (TCBaseDesc* clone : clones) {
         int capacity = sizeof buffer;
         if (clone->GetDescriptor(buffer, &capacity) && capacity > 2) {
+            isdbnetfields::DecodeAsSystemManagement(buffer);
             TCDescriptorDataTranslator bits(buffer + 2, static_cast<unsigned char>(capacity - 2));
             while (!bits.EndOfData()) {
                 bits.GetBits(3);

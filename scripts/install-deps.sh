@@ -7,7 +7,7 @@ packages=(
   build-essential cmake ninja-build pkg-config
   clang libclang-rt-14-dev
   libgtest-dev libbenchmark-dev
-  zlib1g-dev nlohmann-json3-dev libboost-dev
+  zlib1g-dev nlohmann-json3-dev libboost-dev libaribb24-dev
   libgstreamer-plugins-bad1.0-dev libdvbpsi-dev
 )
 

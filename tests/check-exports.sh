@@ -13,7 +13,7 @@ fi
 
 # Rule: an exported symbol belongs to a TC/TT/TS/I class (members, vtable, typeinfo) or is named below; weak std:: and
 # compiler-made instances are tolerated, and so are weak boost:: ones (the exception types Boost marks visible).
-named='^(_TCParserAssert|PrintSignalMessage|PrintXmlFormat|CEXTEventLinkageInfo|CAudioPreselection|CSSULinkLoop|CSSUInfoLoop|M7HomeTPLinkageData|OSDT|SDContent|CLogoData)$'
+named='^(_TCParserAssert|PrintSignalMessage|PrintXmlFormat|CEXTEventLinkageInfo|CAudioPreselection|CSSULinkLoop|CSSUInfoLoop|M7HomeTPLinkageData|OSDT|SDContent|CLogoData|SubDescriptor)$'
 
 # Sets scope to the outermost scope of a mangled name: its class, namespace or free function.
 owner() {

@@ -38,6 +38,8 @@ const char kUsage[] =
     "  --summary           only the input and the summary (demux, routing, PIDs, tables)\n"
     "  --services          one line per service, as a scan lists them\n"
     "  --events            one line per event, by service and start time\n"
+    "  --guide             beside each event, what a guide that stored it learns: components,\n"
+    "                      rating, links, series\n"
     "  --country XXX       receiver country, three letters (e.g. GBR, TUR, USA, JPN)\n"
     "  --operator N        receiver operator number\n"
     "  --pds 0xNNNNNNNN    receiver private data specifier (TUR without --operator:\n"
@@ -112,6 +114,8 @@ std::optional<Options> ParseCommandLine(int argc, char** argv, int& exitCode)
             o.service = argv[++i];
         } else if (arg == "--quiet-progress") {
             o.quietProgress = true;
+        } else if (arg == "--guide") {
+            o.settings.guide = true;
         } else if (arg == "--all-pids") {
             o.settings.allPids = true;
         } else if (arg == "-v") {

@@ -3,10 +3,17 @@
 #include "zum-platform/Binder.h"
 #include "zum-platform/PlatformConfig.h"
 
+// libaribb24's headers declare C functions without saying so.
+extern "C" {
+#include <aribb24/aribb24.h>
+#include <aribb24/decoder.h>
+}
 #include <iconv.h>
 
 #include <algorithm>
+#include <cstring>
 #include <cerrno>
+#include <limits>
 #include <memory>
 #include <string>
 #include <type_traits>
@@ -15,14 +22,16 @@
 namespace {
 
 // One presentable character and the source offset just behind it, so that a
-// cut output can tell how much of the source it used.
+// cut output can tell how much of the source it used; kOffsetByPrefix where
+// only decoding a prefix again can tell it (ARIB text).
+constexpr size_t kOffsetByPrefix = std::numeric_limits<size_t>::max();
 struct TTDecodedChar {
     char32_t codePoint;
     size_t sourceEnd;
 };
 using TTDecodedText = std::vector<TTDecodedChar>;
 
-enum class ETableKind { Unsupported, Latin6937, Iconv };
+enum class ETableKind { Unsupported, Latin6937, Iconv, Arib };
 
 struct TTTextTable {
     ETableKind kind = ETableKind::Unsupported;
@@ -55,11 +64,19 @@ TTTextTable DefaultTable()
     return {ETableKind::Latin6937, std::string(), 0, 1};
 }
 
-// The one place that maps the leading bytes of a text to its table. A system
-// with a coding of its own (ARIB 8-unit text, told by country or language)
-// would branch off here before the selector is read.
+// Japanese broadcasts write all text in ARIB STD-B24 8-unit code, whose
+// designations and shifts take the places of the DVB selector bytes. The
+// other ISDB countries send Latin text (Brazil: see DefaultTableFor).
+bool WritesAribText()
+{
+    return IBinder::Instance() && zum_platform::Binder().countryCode == ZumPackCode('J', 'P', 'N');
+}
+
+// The one place that maps the leading bytes of a text to its table.
 TTTextTable SelectTable(const unsigned char* text, size_t length, ELanguageCode /*language*/)
 {
+    if (WritesAribText())
+        return {ETableKind::Arib, std::string(), 0, 1};
     const unsigned char first = text[0];
     if (first >= 0x20)
         return DefaultTable();
@@ -236,6 +253,56 @@ bool DecodeIconv(const TTTextTable& table, const unsigned char* text, size_t len
     return true;
 }
 
+// Appends the characters of UTF-8 text; a malformed sequence is skipped.
+void AppendUtf8(const char* utf8, size_t size, size_t sourceEnd, TTDecodedText& out)
+{
+    for (size_t i = 0; i < size;) {
+        const unsigned char lead = static_cast<unsigned char>(utf8[i]);
+        const size_t count = lead < 0x80 ? 1 : lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 0;
+        if (count == 0 || i + count > size) {
+            ++i;
+            continue;
+        }
+        char32_t codePoint = count == 1 ? lead : lead & (0x7F >> count);
+        for (size_t k = 1; k < count; ++k)
+            codePoint = (codePoint << 6) | (static_cast<unsigned char>(utf8[i + k]) & 0x3F);
+        Emit(out, codePoint, sourceEnd);
+        i += count;
+    }
+}
+
+struct TTAribInstanceFree {
+    void operator()(arib_instance_t* instance) const { arib_instance_destroy(instance); }
+};
+
+// ARIB 8-unit text through libaribb24, one decoder per thread. The decoder
+// drops the line break APR (0x0D), so the text is decoded between line
+// breaks, with the designations and shifts carried over, and '\n' put back.
+bool DecodeArib(const unsigned char* text, size_t length, TTDecodedText& out)
+{
+    thread_local std::unique_ptr<arib_instance_t, TTAribInstanceFree> instance(arib_instance_new(nullptr));
+    arib_decoder_t* decoder = instance ? arib_get_decoder(instance.get()) : nullptr;
+    if (!decoder)
+        return false;
+    arib_initialize_decoder(decoder);
+    // Room for the longest replacements (symbols spelled out) of every byte.
+    std::vector<char> utf8(8 * length + 16);
+    for (size_t start = 0; start < length;) {
+        const unsigned char* lineEnd =
+            static_cast<const unsigned char*>(std::memchr(text + start, 0x0D, length - start));
+        const size_t end = lineEnd ? static_cast<size_t>(lineEnd - text) : length;
+        if (end > start) {
+            const size_t size = arib_decode_buffer(decoder, text + start, end - start, utf8.data(), utf8.size());
+            AppendUtf8(utf8.data(), size, kOffsetByPrefix, out);
+        }
+        if (lineEnd)
+            Emit(out, U'\n', end + 1);
+        start = end + 1;
+    }
+    arib_finalize_decoder(decoder);
+    return true;
+}
+
 bool Decode(const unsigned char* text, size_t length, ELanguageCode language, TTDecodedText& out)
 {
     const TTTextTable table = SelectTable(text, length, language);
@@ -245,10 +312,35 @@ bool Decode(const unsigned char* text, size_t length, ELanguageCode language, TT
         return true;
     case ETableKind::Iconv:
         return DecodeIconv(table, text, length, out);
+    case ETableKind::Arib:
+        return DecodeArib(text, length, out);
     case ETableKind::Unsupported:
         break;
     }
     return false;
+}
+
+// The source bytes behind the first `count` characters: the shortest prefix
+// that decodes to as many, where the decoder tells no offsets of its own.
+size_t SourceEndOf(const unsigned char* text, size_t length, ELanguageCode language, const TTDecodedText& chars,
+                   size_t count)
+{
+    if (count == 0)
+        return 0;
+    if (chars[count - 1].sourceEnd != kOffsetByPrefix)
+        return chars[count - 1].sourceEnd;
+    size_t low = 1;
+    size_t high = length;
+    while (low < high) {
+        const size_t middle = low + (high - low) / 2;
+        TTDecodedText prefix;
+        Decode(text, middle, language, prefix);
+        if (prefix.size() >= count)
+            high = middle;
+        else
+            low = middle + 1;
+    }
+    return low;
 }
 
 // Answers the number of 16-bit units, 1 or 2 (a surrogate pair).
@@ -297,21 +389,19 @@ bool TCUnicodeConverter::ConvertToUnicode(unsigned char* source, unsigned short&
         return false;
     }
     size_t written = 0;
-    size_t consumed = 0;
-    for (const TTDecodedChar& c : chars) {
+    for (size_t index = 0; index < chars.size(); ++index) {
         unsigned short units[2];
-        const int count = ToUtf16(c.codePoint, units);
+        const int count = ToUtf16(chars[index].codePoint, units);
         // A surrogate pair goes whole or not at all.
         if (written + 2 * static_cast<size_t>(count) > capacity) {
             targetLength = static_cast<unsigned short>(written);
-            sourceLength = static_cast<unsigned short>(consumed);
+            sourceLength = static_cast<unsigned short>(SourceEndOf(source, sourceLength, language, chars, index));
             return false;
         }
         for (int i = 0; i < count; ++i) {
             target[written++] = static_cast<unsigned char>(units[i] >> 8);
             target[written++] = static_cast<unsigned char>(units[i] & 0xFF);
         }
-        consumed = c.sourceEnd;
     }
     targetLength = static_cast<unsigned short>(written);
     return true;

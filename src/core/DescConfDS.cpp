@@ -4,6 +4,7 @@
 #include "../apps/DescTransportProtocol.h"
 #include "../atsc/DescExtendedChannelName.h"
 #include "../dvb/DescContent.h"
+#include "../isdb/DescAbstractService.h"
 
 TCBaseDesc* TCDescConfDS::NewDescriptor(int tag, const unsigned char* /*data*/, unsigned int /*pds*/)
 {
@@ -20,6 +21,10 @@ TCBaseDesc* TCDescConfDS::NewDescriptor(int tag, const unsigned char* /*data*/, 
     case 0x16: return new TCDescApplicationUsage();
     case 0x17: return new TCDescApplicationBoundary();
     case 0x55: return new TCDescParentalRating();
+    case 0x66:
+    case 0xAE: return new TCDescAbstractService();
+    case 0x68:
+    case 0xB1: return new TCDescPrivilegedCertificate();
     case 0x67:
     case 0xAF: return new TCDescUnboundApplication(tag);
     case 0x69:

@@ -16,9 +16,21 @@
 #include "../dvb/DescLinkage.h"
 #include "../dvb/DescLocalTimeOffset.h"
 #include "../dvb/DescSatelliteDeliverySystem.h"
+#include "../isdb/DescAbstractService.h"
+#include "../isdb/DescAudioComponent.h"
+#include "../isdb/DescBoardInformation.h"
+#include "../isdb/DescComponentGroup.h"
+#include "../isdb/DescDigitalCopyControl.h"
+#include "../isdb/DescEventGroup.h"
+#include "../isdb/DescScheduling.h"
+#include "../isdb/DescARIBTerrestrialDeliverySystem.h"
+#include "../isdb/DescDownloadContent.h"
+#include "../isdb/DescExtendedBroadcaster.h"
 #include "../operators/DescAstraServiceListName.h"
 #include "../operators/DescCIPlusService.h"
 #include "../operators/DescDSmartIdentifier.h"
+#include "../operators/DescChannelOrder.h"
+#include "../operators/DescDigiturkLogicalChannel.h"
 #include "../operators/DescDigiturkServiceTheme.h"
 #include "../operators/DescDishTVGenre.h"
 #include "../operators/DescGTPLGenreList.h"
@@ -41,6 +53,7 @@ TCDescConfDVB::TCDescConfDVB(const ZUMHandle& handle) : m_handle(handle) {}
 TCBaseDesc* TCDescConfDVB::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
 {
     switch (tag) {
+    case 0x01: return new TCDescScheduling();
     case 0x03: return new TCDescSSULocation();
     case 0x25: return new TCDescMetadataPointer();
     case 0x40: return new TCDescNetworkName();
@@ -66,6 +79,8 @@ TCBaseDesc* TCDescConfDVB::NewDescriptor(int tag, const unsigned char* data, uns
     case 0x64: return new TCDescDataBroadcast();
     case 0x66: return new TCDescDataBroadcastId();
     case 0x6A: return new TCDescAC3();
+    case 0x71: return new TCDescServiceIdentifier();
+    case 0x72: return new TCDescServiceAvailability();
     case 0x7A: return new TCDescEnhancedAC3();
     case 0x7E: return new TCDescFTAContentManagement();
     case 0x7F: return TCDescExtension::ProcessExtensionDescriptor(data, pds);
@@ -140,8 +155,13 @@ TCBaseDesc* TCDescConfDVB::t_ProcessPrivateDesc(int tag, unsigned int pds)
 TCBaseDesc* TCDescConfDVB::t_NewDefaultPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {
+    case 0xD1:
+        return m_GetPrivateDataSpecification() == 0x004FFFFF ? new TCDescPolsatChannelListInfo() : nullptr;
+    case 0x81:
+        return m_GetPrivateDataSpecification() == 0x004FFFFF ? new TCDescPolsatLogicalChannel(pds) : nullptr;
     case 0x83: return new TCDescLogicalChannel(0x83, pds);
     case 0xE2: return m_GetPrivateDataSpecification() == 0x009FFFFF ? new TCDescTelekomGrid() : nullptr;
+    case 0xE4: return m_GetPrivateDataSpecification() == 0x003FFFFF ? new TCDescOtauChannelOrder() : nullptr;
     default: return nullptr;
     }
 }
@@ -197,8 +217,7 @@ TCBaseDesc* TCDescConfDVB::m_NewRCSPrivateDesc(int tag, unsigned int pds)
 TCBaseDesc* TCDescConfDVB::m_NewFransatPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {
-    // This specifier's own channel number format: kept raw until its class decodes it.
-    case 0x83: return new TCDescDefault(0x83);
+    case 0x83: return new TCDescEutelsatChannelNumber();
     default: return t_NewDefaultPrivateDesc(tag, pds);
     }
 }
@@ -224,6 +243,7 @@ TCBaseDesc* TCDescConfDVB::m_NewDSmartPrivateDesc(int tag, unsigned int pds)
 TCBaseDesc* TCDescConfDVB::m_NewAirTelPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {
+    case 0xCC: return new TCDescEPGInformation();
     case 0xE2: return new TCDescLogicalChannel(0xE2, pds);
     default: return t_NewDefaultPrivateDesc(tag, pds);
     }
@@ -232,16 +252,24 @@ TCBaseDesc* TCDescConfDVB::m_NewNXTPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {
     case 0x82: return new TCDescLogicalChannel(0x82, pds);
+    case 0x93: return new TCDescNXTServiceOrder();
     default: return t_NewDefaultPrivateDesc(tag, pds);
     }
 }
-TCBaseDesc* TCDescConfDVB::m_NewDigitalPlusPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewDigitalPlusPrivateDesc(int tag, unsigned int pds)
+{
+    switch (tag) {
+    case 0x82:
+    case 0x84: return new TCDescSogecablePrivateChannelList(tag);
+    default: return t_NewDefaultPrivateDesc(tag, pds);
+    }
+}
 TCBaseDesc* TCDescConfDVB::m_NewDigiturkPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {
+    // 0x81 here has the Philips layout, not Digiturk's own.
     case 0x81: return new TCDescLogicalChannel(0x81, pds);
-    // Digiturk's own channel number format: kept raw until its class decodes it.
-    case 0x83: return new TCDescDefault(0x83);
+    case 0x83: return new TCDescDigiturkLogicalChannel(pds);
     case 0x96: return new TCDescDigiturkServiceTheme();
     default: return t_NewDefaultPrivateDesc(tag, pds);
     }
@@ -249,8 +277,7 @@ TCBaseDesc* TCDescConfDVB::m_NewDigiturkPrivateDesc(int tag, unsigned int pds)
 TCBaseDesc* TCDescConfDVB::m_NewTelekartaPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {
-    // This specifier's own channel number format: kept raw until its class decodes it.
-    case 0x83: return new TCDescDefault(0x83);
+    case 0x83: return new TCDescTelekartaLogicalChannel(pds);
     default: return t_NewDefaultPrivateDesc(tag, pds);
     }
 }
@@ -354,6 +381,12 @@ TCBaseDesc* TCDescConfISDB::NewDescriptor(int tag, const unsigned char* data, un
 TCBaseDesc* TCDescConfISDB::t_ProcessPrivateDesc(int tag, unsigned int /*pds*/)
 {
     switch (tag) {
+    case 0xC4: return new TCDescAudioComponent();
+    case 0xC7: return new TCDescDataContent();
+    case 0xCD: return new TCDescTSInformation();
+    case 0xCF: return new TCDescLogoTransmission();
+    case 0xFA: return new TCDescARIBTerrestrialDeliverySystem();
+    case 0xFB: return new TCDescPartialReception();
     default: return new TCDescDefault(tag);
     }
 }
@@ -363,6 +396,15 @@ TCDescConfJPN::TCDescConfJPN(const ZUMHandle& handle) : TCDescConfISDB(handle) {
 TCBaseDesc* TCDescConfJPN::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
 {
     switch (tag) {
+    case 0xC1: return new TCDescDigitalCopyControl();
+    case 0xD5: return new TCDescSeries();
+    case 0xD6: return new TCDescEventGroup();
+    case 0xD9: return new TCDescComponentGroup();
+    case 0xDB: return new TCDescBoardInformation();
+    case 0xDE: return new TCDescContentAvailability();
+    case 0xC9: return new TCDescDownloadContent();
+    case 0xCE: return new TCDescExtendedBroadcaster();
+    case 0xDA: return new TCDescSIPrimeTS();
     default: return TCDescConfISDB::NewDescriptor(tag, data, pds);
     }
 }

@@ -16,7 +16,13 @@
 #include "../dvb/DescLinkage.h"
 #include "../dvb/DescPrivateDataSpecifier.h"
 #include "../dvb/DescServiceMove.h"
+#include "../isdb/DescAudioComponent.h"
+#include "../isdb/DescDigitalCopyControl.h"
+#include "../isdb/DescARIBTerrestrialDeliverySystem.h"
+#include "../isdb/DescCAContractInfo.h"
+#include "../isdb/DescCarouselIdent.h"
 #include "../isdb/DescEmergencyInformation.h"
+#include "../isdb/DescExtendedBroadcaster.h"
 #include "../operators/DescTKGSComponent.h"
 #include "../operators/DescFSatLinkage.h"
 #include "PrivateTag.h"
@@ -27,7 +33,12 @@ TCBaseDesc* TCDescConfPSIBase::NewDescriptor(int tag, const unsigned char* /*dat
     switch (tag) {
     case 0x09: return new TCDescCA();
     case 0x0A: return new TCDescLanguage();
+    case 0x13: return new TCDescCarouselIdent();
+    case 0x14: return new TCDescAssociationTag();
+    case 0x15: return new TCDescDeferredAssociationTags();
+    case 0x18: return new TCDescNPTReference();
     case 0x1C: return new TCDescMpeg4Audio();
+    case 0x21: return new TCDescStreamEvent();
     case 0x24: return new TCDescContentLabeling();
     case 0x52: return new TCDescStreamIdentifier();
     case 0x66: return new TCDescDataBroadcastId();
@@ -110,7 +121,15 @@ TCBaseDesc* TCDescConfPsiISDB::NewDescriptor(int tag, const unsigned char* data,
 {
     switch (tag) {
     case 0x55: return new TCDescParentalRating();
+    case 0xC1: return new TCDescDigitalCopyControl();
+    case 0xDE: return new TCDescContentAvailability();
+    case 0xC0: return new TCDescHierarchicalTransmission();
+    case 0xC6: return new TCDescTargetRegionJPN();
+    case 0xCA: return new TCDescCA_EMM_TS();
+    case 0xCB: return new TCDescCAContractInfo();
+    case 0xCC: return new TCDescCAService();
     case 0xFC: return new TCDescEmergencyInformation();
+    case 0xFD: return new TCDescDataComponent();
     default: return TCDescConfPsiDVB::NewDescriptor(tag, data, pds);
     }
 }

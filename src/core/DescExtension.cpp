@@ -5,6 +5,7 @@
 #include "../av/DescAC4.h"
 #include "../av/DescAPD.h"
 #include "../dvb/DescT2SystemDelivery.h"
+#include "../operators/DescADBLCNv2Activate.h"
 
 TCDescExtension::TCDescExtension() : TCBaseDesc(0x7F) {}
 
@@ -27,7 +28,7 @@ int TCDescExtension::t_Parse(const unsigned char* /*payload*/, unsigned char /*l
     return m_length;
 }
 
-TCBaseDesc* TCDescExtension::ProcessExtensionDescriptor(const unsigned char* data, unsigned int /*pds*/)
+TCBaseDesc* TCDescExtension::ProcessExtensionDescriptor(const unsigned char* data, unsigned int pds)
 {
     if (!data)
         return nullptr;
@@ -41,6 +42,8 @@ TCBaseDesc* TCDescExtension::ProcessExtensionDescriptor(const unsigned char* dat
     case 0x20: return new TCDescTTMLSubtitling();
     case 0x15: return new TCDescAC4();
     case 0x19: return new TCDescAPD();
+    // ADB's activation extension; under any other specifier a plain extension.
+    case 0xA3: return pds == 0x41444250 ? static_cast<TCBaseDesc*>(new TCDescADBLCNv2Activate()) : new TCDescExtension();
     default: return new TCDescExtension();
     }
 }

@@ -153,7 +153,8 @@ void TCDVBMuxInstance::m_Parse(const unsigned char* body, int length, int sectio
 
     // A section parsed again (after RemoveSection) appends its muxes, as it
     // does its descriptors: nothing a caller holds is freed before the next version.
-    std::vector<std::unique_ptr<TCDVBItemMux>>& muxes = m_muxesBySection[static_cast<unsigned char>(section)];
+    std::vector<std::unique_ptr<TCDVBItemMux>>& muxes =
+        m_muxesBySection[m_inStreamOrder ? 0 : static_cast<unsigned char>(section)];
     const int first = descriptorsLength + 4;
     if (first < end)
         muxes.reserve(muxes.size() +

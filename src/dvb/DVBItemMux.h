@@ -65,7 +65,11 @@ public:
     TCDVBItemMux* DVBItemMux(unsigned short transportStreamId, unsigned short originalNetworkId) const;
 
 protected:
-    explicit TCDVBMuxInstance(const ZUMHandle& handle) : m_handle(handle) {}
+    // `inStreamOrder`: the muxes are listed as they came, not by section number.
+    explicit TCDVBMuxInstance(const ZUMHandle& handle, bool inStreamOrder = false)
+        : m_handle(handle), m_inStreamOrder(inStreamOrder)
+    {
+    }
 
     // Tracks the section; for a new one reads its loops. True when the sub-table is complete.
     bool t_ParseSection(const unsigned char* body, int length, char version, int section, int last,
@@ -74,6 +78,7 @@ protected:
     ZUMHandle m_handle;
 
 private:
+    bool m_inStreamOrder;
     void m_Parse(const unsigned char* body, int length, int section, unsigned char tableId);
 
     // Owns the muxes; m_muxes lists them in section order.

@@ -76,6 +76,8 @@ private:
     bool m_eventSimulcast = false;
 
     friend class TCDescLinkage;
+    // Builds the records of its links from the linkages of a stored event.
+    friend class TCProgramDescriptorUtil;
 };
 
 // The home transponders of fast-scan operators (linkage types 0x88 to 0x8A):

@@ -68,6 +68,8 @@ protected:
     // For a subclass that decodes entries of its own: goes behind the
     // entries of the same service id.
     void t_AddEntry(const _TTDescLCN& entry);
+    // The entries a subclass added, ascending by service id.
+    const TCLCNEntryList& t_Entries() const { return m_entries; }
 
     unsigned int m_privateDataSpecifier;
 

@@ -179,13 +179,6 @@ TEST(DescLogicalChannel, DispatchAndLayoutThroughTheNitLoop)
         {"nordic has no 0x88", 0x88, {0x29}, 0, 0, nullptr, 0},
         {"0x87 elsewhere", 0x87, {0x28}, 0, 0, nullptr, 0},
     };
-    // These specifiers' own 0x83 formats are kept raw, never read as an EACEM list.
-    for (unsigned int pds : {0x55Fu, 0x2FFFFFu, 0x5FFFFFu}) {
-        zumtest::BinderScope binder;
-        TCDescriptorHash hash;
-        EXPECT_NE(dynamic_cast<TCDescDefault*>(LastOfNitLoop(Concat({Pds(pds), Desc(0x83, probe)}), hash)), nullptr)
-            << pds;
-    }
     for (const auto& c : cases) {
         for (unsigned int pds : c.pds) {
             SCOPED_TRACE(std::string(c.name) + " " + std::to_string(pds));

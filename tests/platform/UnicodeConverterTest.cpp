@@ -6,6 +6,8 @@
 
 #include <zum-platform/UnicodeConverter.h>
 
+#include "support/TestEnvironment.h"
+
 namespace {
 
 using U16 = std::basic_string<unsigned short>;
@@ -95,4 +97,40 @@ TEST(UnicodeConverter, BufferWithinCapacity)
             EXPECT_LE(used, source.size());
         }
     }
+}
+
+// In Japan every text is ARIB 8-unit code: designations and shifts, kanji and the alphanumeric set (as full-width
+// forms), APR as a line break; a cut buffer consumes the source of the characters written. Brazil reads Latin text.
+TEST(UnicodeConverter, AribTextInJapan)
+{
+    zumtest::BinderScope binder;
+    binder->countryCode = ZumPackCode("JPN");
+    TCUnicodeConverter converter(kZUMDefaultHandle);
+    const struct { Bytes source; U16 expected; } cases[] = {
+        {{0x0E, 0x4E, 0x48, 0x4B, 0x0F, 0x41, 0x6D, 0x39, 0x67, 0x0E, 0x31}, {0xFF2E, 0xFF28, 0xFF2B, 0x7DCF, 0x5408, 0xFF11}},
+        {{0x0E, 'A', 'B', 0x0D, 'C'}, {0xFF21, 0xFF22, '\n', 0xFF23}},
+        {{0x1B, 0x7C, 0xC6, 0xEC}, {0x30C6, 0x30EC}}, // katakana, locking shift of G3 into GR
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(testing::PrintToString(c.source));
+        Bytes source = c.source;
+        unsigned short length = static_cast<unsigned short>(source.size());
+        U16 out;
+        EXPECT_TRUE(converter.ConvertToUnicode(source.data(), length, out, false, kNoLang, true));
+        EXPECT_EQ(out, c.expected);
+    }
+    Bytes source = {0x0E, 0x4E, 0x48, 0x4B, 0x0F, 0x41, 0x6D, 0x39, 0x67};
+    unsigned short length = static_cast<unsigned short>(source.size()), size = 8;
+    Bytes target(8);
+    EXPECT_FALSE(converter.ConvertToUnicode(source.data(), length, target.data(), size, false, kNoLang, true));
+    EXPECT_EQ(size, 8);
+    EXPECT_EQ(length, 7);
+    EXPECT_EQ(target, (Bytes{0xFF, 0x2E, 0xFF, 0x28, 0xFF, 0x2B, 0x7D, 0xCF}));
+
+    binder->countryCode = ZumPackCode("BRA");
+    Bytes latin = {'r', 0xE9};
+    length = 2;
+    U16 out;
+    EXPECT_TRUE(converter.ConvertToUnicode(latin.data(), length, out, false, kNoLang, true));
+    EXPECT_EQ(out, (U16{'r', 0xE9}));
 }

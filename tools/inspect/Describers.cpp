@@ -49,12 +49,18 @@
 #include "inspect/AitView.h"
 #include "inspect/AudioView.h"
 #include "inspect/EwsView.h"
+#include "inspect/IsdbNetView.h"
 #include "av/DescAC4.h"
 #include "av/DescAPD.h"
 #include "inspect/TkgsView.h"
 #include "inspect/FreesatView.h"
+#include "inspect/IsdbEventView.h"
 #include "isdb/DescEmergencyInformation.h"
 #include "operators/DescLogicalChannel.h"
+#include "inspect/OperatorTablesView.h"
+#include "operators/DescADBLCNv2Activate.h"
+#include "operators/DescChannelOrder.h"
+#include "operators/DescDigiturkLogicalChannel.h"
 #include "inspect/LinkageView.h"
 #include "operators/DescLogicalChannelV2.h"
 #include "operators/DescTKGSComponent.h"
@@ -589,6 +595,15 @@ DescriberTable MakeTable()
     Register<TCDescTricolorRegionName>(t, DescribeTricolorRegionName);
     Register<TCDescTricolorListType>(t, DescribeTricolorListType);
     Register<TCDescUKDTTServiceAttribute>(t, DescribeUKDTTServiceAttribute);
+    Register<TCDescDigiturkLogicalChannel>(t, DescribeDigiturkLogicalChannel);
+    Register<TCDescPolsatLogicalChannel>(t, DescribePolsatLogicalChannel);
+    Register<TCDescTelekartaLogicalChannel>(t, DescribeTelekartaLogicalChannel);
+    Register<TCDescPolsatChannelListInfo>(t, DescribePolsatChannelListInfo);
+    Register<TCDescEutelsatChannelNumber>(t, DescribeEutelsatChannelNumber);
+    Register<TCDescSogecablePrivateChannelList>(t, DescribeSogecablePrivateChannelList);
+    Register<TCDescNXTServiceOrder>(t, DescribeNXTServiceOrder);
+    Register<TCDescOtauChannelOrder>(t, DescribeOtauChannelOrder);
+    Register<TCDescADBLCNv2Activate>(t, DescribeADBLCNv2Activate);
     return t;
 }
 
@@ -630,6 +645,10 @@ Json DescribeDescriptor(const TCBaseDesc& desc, const TextDecoder& text)
         out["fields"] = av;
     else if (!(freesat = DescribeFreesat(desc, text)).is_null())
         out["fields"] = freesat;
+    else if (Json isdb = DescribeIsdbEventDescriptor(desc, text); !isdb.is_null())
+        out["fields"] = isdb;
+    else if (Json isdbNet = DescribeIsdbNetDescriptor(desc, text); !isdbNet.is_null())
+        out["fields"] = isdbNet;
     else
         out["raw"] = RawHex(desc);
     return out;

@@ -18,7 +18,9 @@
 #include "inspect/AitView.h"
 #include "inspect/EwsView.h"
 #include "inspect/IsdbView.h"
+#include "inspect/IsdbNetView.h"
 #include "inspect/Format.h"
+#include "inspect/GuideView.h"
 #include "inspect/Names.h"
 #include "inspect/Router.h"
 #include "inspect/SitView.h"
@@ -157,10 +159,13 @@ Json Builder::TransportStream(const TCDVBItemMux& mux) const
                 services.back()["channelNumbersByRegion"] = byRegion;
         }
     }
-    return {{"transportStreamId", mux.TransportStreamId()},
-            {"originalNetworkId", mux.OriginalNetworkId()},
-            {"descriptors", DescribeLoop(mux, text)},
-            {"services", services}};
+    Json out = {{"transportStreamId", mux.TransportStreamId()},
+                {"originalNetworkId", mux.OriginalNetworkId()},
+                {"descriptors", DescribeLoop(mux, text)},
+                {"services", services}};
+    if (Json scan = IsdbScan(mux, text); !scan.is_null())
+        out["isdbScan"] = scan;
+    return out;
 }
 
 Json Builder::Nits() const
@@ -285,8 +290,14 @@ Json Builder::Events() const
     Json services = Json::array();
     for (const auto& entry : router.Events().EventsByService()) {
         Json events = Json::array();
-        for (const EitCollector::Event* event : entry.second)
+        for (const EitCollector::Event* event : entry.second) {
             events.push_back(Event(*event));
+            if (context.guide)
+                events.back()["guide"] = GuideAnswers({std::get<0>(entry.first), std::get<1>(entry.first),
+                                                       std::get<2>(entry.first), event->eventId,
+                                                       EventLoopTableId(event->tableId), event->startTime,
+                                                       event->duration, &event->descriptors});
+        }
         services.push_back({{"originalNetworkId", std::get<0>(entry.first)},
                             {"transportStreamId", std::get<1>(entry.first)},
                             {"serviceId", std::get<2>(entry.first)},
@@ -426,6 +437,8 @@ Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContex
             {"tkgs", TkgsModel(router, b.text)},
             {"atsc", DescribeAtsc(router.Atsc(), b.text)},
             {"freesatPostCodes", FreesatPostCodes(router.FSatPostCodes())},
+            {"fastScan", router.Operators().FastScanModel(b.text)},
+            {"unt", router.Operators().UntModel(b.text)},
             {"summary", b.Summary()}};
 }
 

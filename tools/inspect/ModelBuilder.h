@@ -24,6 +24,7 @@ struct ModelContext {
     bool sectionsInput = false; // a file of sections, not a transport stream
     uint64_t bytes = 0;         // input size
     BroadcastSystem system = BroadcastSystem::Dvb; // whose names the model gives
+    bool guide = false;         // each event with the guide's answers (GuideView.h)
 };
 
 Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContext& context);

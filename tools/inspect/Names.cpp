@@ -621,6 +621,9 @@ std::string TableIdName(unsigned int tableId, BroadcastSystem system, unsigned i
         // A Turkish operator's channel system.
         if (system == BroadcastSystem::Dvb && tableId == 0xA7)
             return "TKGS";
+        // An operator's fast-scan line-up on its home transponder.
+        if (system == BroadcastSystem::Dvb && (tableId == 0xBC || tableId == 0xBD))
+            return tableId == 0xBC ? "FNT" : "FST";
         // Freesat's postcode tree and region keys.
         if (system == BroadcastSystem::Dvb && tableId == 0xD2)
             return "Freesat postcodes";

@@ -7,6 +7,8 @@
 #include "inspect/AitView.h"
 #include "inspect/EwsView.h"
 #include "inspect/IsdbView.h"
+#include "inspect/IsdbNetView.h"
+#include "inspect/OperatorTablesView.h"
 #include "inspect/AtscView.h"
 #include "inspect/Format.h"
 #include "inspect/OperatorsView.h"
@@ -151,6 +153,8 @@ public:
         for (const Json& ts : streams) {
             Line(depth, "transport stream " + HexOr(ts["transportStreamId"], 4) + ", original network " +
                             HexOr(ts["originalNetworkId"], 4));
+            if (ts.contains("isdbScan"))
+                Line(depth + 1, IsdbScanLine(ts["isdbScan"]));
             Descriptors(depth + 1, ts["descriptors"]);
             for (const Json& s : ts["services"]) {
                 const Json& tag = s["channelNumberTag"];
@@ -208,6 +212,8 @@ public:
                 Descriptors(2, e["descriptors"]);
                 if (e.contains("undecoded"))
                     Line(2, "undecoded: " + e["undecoded"].get<std::string>());
+                if (e.contains("guide"))
+                    Object(2, "guide:", e["guide"]);
             }
         }
     }
@@ -331,6 +337,8 @@ void RenderTree(const Json& model, std::ostream& out)
     RenderSgtTree(part("sgt"), out);
     RenderTkgsTree(part("tkgs"), out);
     RenderAtscTree(part("atsc"), out);
+    RenderFastScanTree(part("fastScan"), out);
+    RenderUntTree(part("unt"), out);
     tree.Summary(part("summary"));
 }
 

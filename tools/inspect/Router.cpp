@@ -14,6 +14,7 @@
 #include "dvb/DVBTDTParser.h"
 #include "dvb/DVBTOTParser.h"
 #include "dvb/DVBTKGSParser.h"
+#include "inspect/LazyParser.h"
 #include "inspect/TableIds.h"
 #include "inspect/AtscView.h"
 #include "inspect/TsDemux.h"
@@ -48,16 +49,6 @@ bool IsEit(uint8_t tableId)
     return (tableId >= 0x4E && tableId <= 0x6F) || (tableId >= 0x80 && tableId <= 0x9F);
 }
 
-template <class Parser, class... Args>
-Parser* Lazy(std::unique_ptr<Parser>& slot, const Args&... args)
-{
-    if (!slot) {
-        slot = std::make_unique<Parser>(args...);
-        slot->Initialize();
-    }
-    return slot.get();
-}
-
 template <class Range, class Valid>
 bool AllValid(const Range& range, Valid valid)
 {
@@ -74,7 +65,7 @@ bool AllValid(const Range& range, Valid valid)
 
 Router::Router(const ZUMHandle& handle, bool allPids)
     : m_handle(handle), m_allPids(allPids), m_events(handle), m_atsc(new AtscTables(handle)),
-      m_isdb(std::make_unique<IsdbTables>(handle))
+      m_isdb(std::make_unique<IsdbTables>(handle)), m_operators(std::make_unique<OperatorTables>(handle))
 {
 }
 
@@ -85,7 +76,7 @@ bool Router::Wants(uint16_t pid) const
     return m_allPids || pid == kPidPat || pid == kPidCat || pid == kPidNit || pid == kPidSdt || pid == kPidEit ||
            pid == kPidTime || pid == kPidSit || pid == kNoPid || m_pmtPids.count(pid) > 0 || pid == m_networkPid ||
            m_privateSectionPids.count(pid) > 0 || m_atsc->Wants(pid) || m_isdb->Wants(pid) ||
-           m_tkgsPids.count(pid) > 0;
+           m_tkgsPids.count(pid) > 0 || m_operators->Wants(pid);
 }
 
 Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
@@ -207,6 +198,8 @@ void Router::OnSection(uint16_t pid, const uint8_t* section, size_t size)
         parser = m_atsc->Parser(pid, tableId);
     if (parser == nullptr)
         parser = m_isdb->ParserFor(pid, tableId);
+    if (parser == nullptr)
+        parser = m_operators->ParserFor(pid, tableId, m_allPids);
     if (parser == nullptr) {
         ++counts.noParser;
         ++m_noParser;
@@ -217,6 +210,8 @@ void Router::OnSection(uint16_t pid, const uint8_t* section, size_t size)
     if (pid == kNoPid && IsCompressedEitRange(tableId))
         m_sharedKinds.emplace(tableId, kind);
     const bool taken = parser->Parse(static_cast<short>(pid), section);
+    if (kind == Kind::Nit || kind == Kind::Bat || kind == Kind::Pmt)
+        m_operators->Learn(*parser);
     if (kind == Kind::Pat)
         m_LearnPids();
     else if (kind == Kind::Eit && taken)
@@ -299,7 +294,8 @@ std::string Router::ParserName(uint16_t pid, uint8_t tableId) const
     case Kind::None: break;
     }
     const std::string atsc = m_atsc->ParserName(pid, tableId);
-    return !atsc.empty() ? atsc : m_isdb->ParserName(pid, tableId);
+    const std::string isdb = !atsc.empty() ? atsc : m_isdb->ParserName(pid, tableId);
+    return !isdb.empty() ? isdb : m_operators->ParserName(pid, tableId);
 }
 
 std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
@@ -367,7 +363,9 @@ std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
     }
     if (const std::optional<bool> atsc = m_atsc->Complete(pid, tableId))
         return atsc;
-    return m_isdb->Complete(pid, tableId);
+    if (const std::optional<bool> isdb = m_isdb->Complete(pid, tableId))
+        return isdb;
+    return m_operators->Complete(pid, tableId);
 }
 
 } // namespace zuminspect

@@ -24,6 +24,7 @@
 
 #include "inspect/EitCollector.h"
 #include "inspect/IsdbView.h"
+#include "inspect/OperatorTablesView.h"
 
 class TCSectionParser;
 class TCPATParser;
@@ -115,6 +116,8 @@ public:
     // The ISDB tables of an ISDB receiver (BIT, NBIT, LDT, PCAT, SDTT, CDT, ECM, EMM).
     const IsdbTables& Isdb() const { return *m_isdb; }
     const TCDVBFSatPostCodeParser* FSatPostCodes() const { return m_fsatPostCodes.get(); }
+    // The fast-scan tables and the update notification table.
+    const OperatorTables& Operators() const { return *m_operators; }
 
 private:
     enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit, Bat, Cat, Ait, Sgt, Tkgs, FSatPostCode };
@@ -161,6 +164,7 @@ private:
     std::unique_ptr<AtscTables> m_atsc;
     std::unique_ptr<IsdbTables> m_isdb;
     std::unique_ptr<TCDVBFSatPostCodeParser> m_fsatPostCodes;
+    std::unique_ptr<OperatorTables> m_operators;
 
     // Without PIDs, the kind that sections of a shared table id went to.
     std::map<uint8_t, Kind> m_sharedKinds;

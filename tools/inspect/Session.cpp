@@ -86,6 +86,7 @@ Json Session::Model() const
     context.sectionsInput = m_kind == InputKind::Sections;
     context.bytes = m_bytes;
     context.system = SystemOf(context.country, m_settings.operatorId);
+    context.guide = m_settings.guide;
     return BuildModel(m_router, m_demux.Stats(), context);
 }
 

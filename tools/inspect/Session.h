@@ -23,6 +23,7 @@ struct InspectSettings {
     unsigned int privateDataSpecifier = 0;
     std::string language;         // three letters, e.g. "eng"; empty for none
     bool allPids = false;         // collect sections on every PID, a PMT on any of them
+    bool guide = false;           // each event with the answers of the guide utilities
 };
 
 // The platform answers for these settings; the caller hands them to zum_platform::SetBinder.

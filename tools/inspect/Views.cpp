@@ -26,6 +26,8 @@ constexpr unsigned int kTagCA = 0x09;
 const std::map<std::string, unsigned int> kKnownTables = {
     {"pat", 0x00}, {"pmts", 0x02}, {"tdt", 0x70}, {"tot", 0x73}, {"lcn", 0x85}, {"ews", 0x80}, {"sit", 0xD5},
     {"freesatPostCodes", 0xD2},
+    // The fast-scan channel list is the FST's services, numbered by the FNT.
+    {"unt", 0x4B}, {"fastScan", 0xBD},
 };
 
 BroadcastSystem SystemOfModel(const Json& model)

@@ -41,6 +41,27 @@ enum EJapanPrefecture : int {
     EJAPAN_PREFECTURE_NONE = 63,
 };
 
+// ARIB service_type values, as numbers; the named ones are those whose copy
+// rules differ.
+enum EISDBServiceType : int {
+    EISDB_SERVICE_TYPE_DIGITAL_TV = 0x01,
+    EISDB_SERVICE_TYPE_TEMPORARY_VIDEO = 0xA1,
+    EISDB_SERVICE_TYPE_TEMPORARY_DATA = 0xA3,
+    EISDB_SERVICE_TYPE_ENGINEERING = 0xAA,
+    EISDB_SERVICE_TYPE_DATA = 0xC0,
+};
+
+// What a Japanese receiver may do with an event's output: copy freely, once,
+// never (each for the two output families of the platform), or nothing to rule.
+enum EDigitalCopyControl : int {
+    EDIGITAL_COPY_FREE = 0,
+    EDIGITAL_COPY_ONCE = 2,
+    EDIGITAL_COPY_ONCE_DATA = 3,
+    EDIGITAL_COPY_NEVER = 4,
+    EDIGITAL_COPY_NEVER_DATA = 5,
+    EDIGITAL_COPY_NOT_RULED = 6,
+};
+
 constexpr unsigned int ZumPackCode(char a, char b, char c)
 {
     return (static_cast<unsigned int>(static_cast<unsigned char>(a)) << 16) |

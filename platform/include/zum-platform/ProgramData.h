@@ -34,6 +34,13 @@ public:
     bool operator!=(const TCProgramId& other) const { return !(*this == other); }
 };
 
+// A parental rating as the guide shows it.
+struct TSRatingInfo {
+    unsigned char ratingType = 0;
+    unsigned char ratingValue = 0;
+    unsigned char ratingExtra = 0;
+};
+
 class TCProgramData {
 public:
     // Kinds of component; the values 0..3 are the valid ones.

@@ -8,6 +8,9 @@
 // 0x11 UTF-16BE, 0x12 KS X 1001, 0x13 GB2312, 0x14 UTF-16BE (the Big5 repertoire), 0x15 UTF-8.
 // The control code CR/LF (0x8A, U+E08A) becomes '\n'; the other control codes
 // (0x80..0x9F, U+E080..U+E09F) and NUL are dropped. The output is UTF-16.
+// In Japan (the binder's country JPN) all text is ARIB STD-B24 8-unit code
+// (kanji, kana and alphanumeric sets with designations and shifts), decoded by
+// libaribb24; the line break APR (0x0D) becomes '\n'.
 // The language hint is not consulted yet: the leading bytes alone decide.
 //
 // Both overloads answer false for a null pointer, an empty source or a table
