@@ -43,6 +43,7 @@
 #include <dvbpsi/dr_83.h>
 #include <dvbpsi/dr_a0.h>
 #include <dvbpsi/dr_a1.h>
+#include <dvbpsi/atsc_eit.h>
 #include <dvbpsi/atsc_mgt.h>
 #include <dvbpsi/atsc_vct.h>
 // clang-format on
@@ -193,6 +194,17 @@ void OnVct(void* data, dvbpsi_atsc_vct_t* vct)
     dvbpsi_atsc_DeleteVCT(vct);
 }
 
+void OnAtscEit(void* data, dvbpsi_atsc_eit_t* eit)
+{
+    auto* seen = static_cast<Seen*>(data);
+    ++seen->tables;
+    for (dvbpsi_atsc_eit_event_t* e = eit->p_first_event; e; e = e->p_next) {
+        DecodeDescriptors(e->p_first_descriptor);
+        ++seen->count;
+    }
+    dvbpsi_atsc_DeleteEIT(eit);
+}
+
 void OnNewSubtable(dvbpsi_t* handle, uint8_t tableId, uint16_t extension, void* data)
 {
     if (tableId == 0x40 || tableId == 0x41)
@@ -207,6 +219,8 @@ void OnNewSubtable(dvbpsi_t* handle, uint8_t tableId, uint16_t extension, void* 
         dvbpsi_atsc_AttachMGT(handle, tableId, extension, OnMgt, data);
     else if (tableId == 0xC8 || tableId == 0xC9)
         dvbpsi_atsc_AttachVCT(handle, tableId, extension, OnVct, data);
+    else if (tableId == 0xCB)
+        dvbpsi_atsc_AttachEIT(handle, tableId, extension, OnAtscEit, data);
 }
 
 void Quiet(dvbpsi_t*, const dvbpsi_msg_level_t, const char*) {}

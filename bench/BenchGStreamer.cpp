@@ -230,6 +230,10 @@ int Pass(Family family, const Table& table, uint64_t n)
             if (const GstMpegtsAtscVCT* vct = gst_mpegts_section_get_atsc_tvct(section))
                 count += static_cast<int>(vct->sources->len);
             break;
+        case Family::PsipEit:
+            if (const GstMpegtsAtscEIT* eit = gst_mpegts_section_get_atsc_eit(section))
+                count += static_cast<int>(eit->events->len);
+            break;
         default: break;
         }
         gst_mpegts_section_unref(section);

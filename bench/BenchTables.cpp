@@ -400,6 +400,32 @@ Bytes Tvct(unsigned version)
     return s.Build();
 }
 
+// Three hours of one channel's guide on EIT-0 in four sections: each event
+// with an English title, a content advisory and a caption service.
+std::vector<Bytes> PsipEit(unsigned version)
+{
+    std::vector<Bytes> sections;
+    for (unsigned section = 0; section < static_cast<unsigned>(kPsipEitSections); ++section) {
+        zumtest::SectionHeader header = PsipHeader(0xCB, kPsipEitSourceId, version);
+        header.sectionNumber = section;
+        header.lastSectionNumber = kPsipEitSections - 1;
+        SectionBuilder s(header);
+        s.U8(static_cast<unsigned>(kPsipEitEventsPerSection));
+        for (unsigned i = 0; i < static_cast<unsigned>(kPsipEitEventsPerSection); ++i) {
+            const unsigned n = section * kPsipEitEventsPerSection + i;
+            const std::string title = "KULX Evening News " + std::to_string(n);
+            s.U16(0xC000 | (n + 1)).U32(1447707600u + 1800u * n).U24(0xC00000u | (1u << 20) | 1800u);
+            s.Begin8().Raw(Concat({{0x01}, Text("eng"), {0x01, 0x00, 0x00, static_cast<uint8_t>(title.size())},
+                                   Text(title)})).End();
+            s.Begin16(12, 0xF000);
+            s.Descriptor(0x87, {0xC1, 0x01, 0x03, 0x00, 0x03, 0x01, 0x01, 0x02, 0x01, 0x00});
+            s.Descriptor(0x86, Concat({{0xE1}, Text("eng"), {0x7E, 0x3F, 0xFF}}));
+            s.End();
+        }
+        sections.push_back(s.Build());
+    }
+    return sections;
+}
 
 // ---- SVCT: a cable virtual channel map of 24 channels with their names -----
 // Out-of-band sections carry no version: the two "versions" differ in their
@@ -562,6 +588,7 @@ Table Make(Family family)
         case Family::Mgt: t.pid = kPidPsip; t.tableId = 0xC7; t.versions[v] = {Mgt(version)}; break;
         case Family::Tvct: t.pid = kPidPsip; t.tableId = 0xC8; t.versions[v] = {Tvct(version)}; break;
         case Family::EitIsdb: t.pid = kPidEit; t.tableId = 0x50; t.versions[v] = IsdbEitSchedule(version); break;
+        case Family::PsipEit: t.pid = 0x1D00; t.tableId = 0xCB; t.versions[v] = PsipEit(version); break;
         case Family::Svct: t.pid = kPidOob; t.tableId = 0xC4; t.versions[v] = {Svct(version)}; break;
         case Family::Aeit: t.pid = kPidOob; t.tableId = 0xD6; t.versions[v] = Aeit(version); break;
         case Family::Sgt: t.pid = kPidSgt; t.tableId = 0x91; t.versions[v] = Sgt(version); break;
@@ -588,7 +615,7 @@ const std::vector<Family>& AllFamilies()
                                             Family::Nit,         Family::Bat,         Family::Sdt,
                                             Family::EitPf,       Family::EitSchedule,
                                             Family::EitScheduleCompressed, Family::DescriptorLoop,
-                                            Family::Mgt,         Family::Tvct,        Family::EitIsdb,
+                                            Family::Mgt,         Family::Tvct,        Family::EitIsdb,     Family::PsipEit,
                                             Family::Svct,        Family::Aeit,        Family::Sgt,         Family::Tkgs,
                                             Family::Fst};
     return all;
@@ -609,6 +636,7 @@ const char* FamilyName(Family family)
     case Family::Mgt: return "MGT";
     case Family::Tvct: return "TVCT";
     case Family::EitIsdb: return "EIT-isdb";
+    case Family::PsipEit: return "PSIP-EIT";
     case Family::Svct: return "SVCT";
     case Family::Aeit: return "AEIT";
     case Family::Sgt: return "SGT";
@@ -633,6 +661,7 @@ int DecodedByPeers(Family family)
     case Family::Mgt: return kMgtTables;
     case Family::Tvct: return kTvctChannels;
     case Family::EitIsdb: return 2 * kEitScheduleEventsPerSection * 3; // short event, component, content
+    case Family::PsipEit: return kPsipEitSections * kPsipEitEventsPerSection;
     case Family::Svct:
     case Family::Aeit:
     case Family::Sgt:

@@ -18,7 +18,7 @@ namespace zumbench {
 using zumtest::Bytes;
 
 enum class Family {
-    Pat, Pmt, Nit, Bat, Sdt, EitPf, EitSchedule, EitScheduleCompressed, DescriptorLoop, Mgt, Tvct, EitIsdb,
+    Pat, Pmt, Nit, Bat, Sdt, EitPf, EitSchedule, EitScheduleCompressed, DescriptorLoop, Mgt, Tvct, EitIsdb, PsipEit,
     // Tables no peer decodes: timed against the floor only.
     Svct, Aeit, Sgt, Tkgs, Fst,
 };
@@ -62,6 +62,9 @@ constexpr int kIsdbEventDescriptors = 7;
 constexpr int kDescriptorLoopDescriptors = 7;
 constexpr int kMgtTables = 19;
 constexpr int kTvctChannels = 8;
+constexpr int kPsipEitSections = 4;
+constexpr int kPsipEitEventsPerSection = 8;
+constexpr unsigned kPsipEitSourceId = 0x0003;
 constexpr int kSvctChannels = 24;
 constexpr int kAeitSources = 4;
 constexpr int kAeitEventsPerSource = 6;
@@ -72,8 +75,8 @@ constexpr int kTkgsLists = 2;
 
 // What a peer's pass must decode, so that no benchmark times a refusal: the
 // descriptors that the library decodes into objects (the PAT: its programs;
-// the MGT and TVCT: their table entries and channels, since GStreamer decodes
-// no PSIP descriptor).
+// the MGT, TVCT and PSIP EIT: their table entries, channels and events, since
+// GStreamer decodes no PSIP descriptor).
 int DecodedByPeers(Family family);
 
 } // namespace zumbench

@@ -12,6 +12,7 @@
 #include <set>
 #include <vector>
 
+#include "ReadAtscFields.h"
 #include "ReadAvFields.h"
 #include "av/DescAC4.h"
 #include "av/DescAPD.h"
@@ -31,6 +32,7 @@
 #include "operators/DescTKGSComponent.h"
 #include "ReadFSatFields.h"
 #include "ReadIsdbEventFields.h"
+#include "ReadTargetingFields.h"
 #include "ReadIsdbNetFields.h"
 
 namespace fuzzfields {
@@ -109,6 +111,7 @@ inline void ReadAPD(const TCDescAPD& d)
 inline void Read(TCBaseDesc* desc)
 {
     ReadApp(desc);
+    targetfields::Read(desc);
     if (auto* d = dynamic_cast<TCDescAC4*>(desc))
         ReadAC4(*d);
     if (auto* d = dynamic_cast<TCDescAPD*>(desc))
@@ -189,6 +192,7 @@ inline void Read(TCBaseDesc* desc)
         for (int i = -1; i <= d->NumOfEntries(); ++i)
             Take(d->CentreFrequency(i) != 0.0f);
     ReadAv(desc, g_sink);
+    ReadAtsc(desc, g_sink);
     if (auto* d = dynamic_cast<IDescLogicalChannel*>(desc))
         ReadLcn(*d);
     if (auto* d = dynamic_cast<TCDescLogicalChannelV2*>(desc)) {

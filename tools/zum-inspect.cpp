@@ -17,6 +17,7 @@
 #include <zum-platform/PlatformConfig.h>
 
 #include "inspect/OsdtView.h"
+#include "inspect/PsipView.h"
 #include "inspect/Renderers.h"
 #include "inspect/Session.h"
 #include "inspect/Views.h"
@@ -45,6 +46,8 @@ const char kUsage[] =
     "  --pds 0xNNNNNNNN    receiver private data specifier (TUR without --operator:\n"
     "                      0x011FFFFF, the TKGS channel system, unless given)\n"
     "  --language xxx      receiver language, three letters (e.g. eng)\n"
+    "  --timezone Z        zone of the ATSC program guide: EST (default), CST, MST,\n"
+    "                      PST, AKST, HST or UTC; daylight time as the STT says\n"
     "  --osdt FILE         read FILE as an XML IP service list and print its services\n"
     "  --all-pids          collect sections on every PID, not only the SI PIDs and the\n"
     "                      PMT PIDs of the PAT, and take a PMT on any PID\n"
@@ -126,6 +129,8 @@ std::optional<Options> ParseCommandLine(int argc, char** argv, int& exitCode)
             o.settings.country = argv[++i];
         } else if (arg == "--language" && hasValue && IsCode(argv[i + 1], 2)) {
             o.settings.language = argv[++i];
+        } else if (arg == "--timezone" && hasValue && zuminspect::SetGuideTimeZone(argv[i + 1])) {
+            ++i;
         } else if (arg == "--charset" && hasValue && zuminspect::IsKnownCharset(argv[i + 1])) {
             o.charset = argv[++i];
         } else if (arg == "--operator" && hasValue && ParseNumber(argv[i + 1], o.settings.operatorId)) {

@@ -7,6 +7,8 @@
 #include "../av/DescMetadata.h"
 #include "../dvb/DescComponent.h"
 #include "../dvb/DescContent.h"
+#include "../dvb/DescCRID.h"
+#include "../dvb/DescTargetRegion.h"
 #include "../dvb/DescCountryAvailability.h"
 #include "../dvb/DescMultilingualNetworkName.h"
 #include "../dvb/DescNetworkName.h"
@@ -81,6 +83,8 @@ TCBaseDesc* TCDescConfDVB::NewDescriptor(int tag, const unsigned char* data, uns
     case 0x6A: return new TCDescAC3();
     case 0x71: return new TCDescServiceIdentifier();
     case 0x72: return new TCDescServiceAvailability();
+    case 0x73: return new TCDescDefaultAuthority();
+    case 0x76: return new TCDescCRID();
     case 0x7A: return new TCDescEnhancedAC3();
     case 0x7E: return new TCDescFTAContentManagement();
     case 0x7F: return TCDescExtension::ProcessExtensionDescriptor(data, pds);
@@ -318,7 +322,12 @@ TCBaseDesc* TCDescConfDVB::m_NewFSatPrivateDesc(int tag, unsigned int pds)
     default: return t_NewDefaultPrivateDesc(tag, pds);
     }
 }
-TCBaseDesc* TCDescConfDVB::m_NewKDGPrivateDesc(int tag, unsigned int pds) { return t_NewDefaultPrivateDesc(tag, pds); }
+TCBaseDesc* TCDescConfDVB::m_NewKDGPrivateDesc(int tag, unsigned int pds)
+{
+    if (tag == 0xAA)
+        return new TCDescRelocatedTS();
+    return t_NewDefaultPrivateDesc(tag, pds);
+}
 TCBaseDesc* TCDescConfDVB::m_NewDishTVPrivateDesc(int tag, unsigned int pds)
 {
     switch (tag) {

@@ -4,6 +4,9 @@
 
 #include "DescExtension.h"
 #include "../apps/DescApplicationSignalling.h"
+#include "../atsc/DescATSCLinakge.h"
+#include "../atsc/DescCaptionService.h"
+#include "../atsc/DescContentAdvisory.h"
 #include "../atsc/DescExtendedChannelName.h"
 #include "../av/DescAACAudio.h"
 #include "../av/DescAC3.h"
@@ -12,6 +15,7 @@
 #include "../av/DescMetadata.h"
 #include "../dvb/DescComponent.h"
 #include "../dvb/DescContent.h"
+#include "../dvb/DescCRID.h"
 #include "../dvb/DescLanguage.h"
 #include "../dvb/DescLinkage.h"
 #include "../dvb/DescPrivateDataSpecifier.h"
@@ -43,6 +47,7 @@ TCBaseDesc* TCDescConfPSIBase::NewDescriptor(int tag, const unsigned char* /*dat
     case 0x52: return new TCDescStreamIdentifier();
     case 0x66: return new TCDescDataBroadcastId();
     case 0x88: return new TCDescDTCP();
+    case 0xB6: return new TCDescContentIdentifier();
     default: return new TCDescDefault(tag);
     }
 }
@@ -141,6 +146,8 @@ TCBaseDesc* TCDescConfPsiATSC::NewDescriptor(int tag, const unsigned char* data,
     case 0x36: return new TCDescStereoScopicVideoInfo();
     case 0x6A: return new TCDescAC3();
     case 0x81: return new TCDescAC3Audio();
+    case 0x86: return new TCDescCaptionService();
+    case 0x87: return new TCDescContentAdvisory();
     case 0xA3: return new TCDescComponentName();
     case 0xCC: return new TCDescATSCEnhancedAC3();
     default: return TCDescConfPSIBase::NewDescriptor(tag, data, pds);
@@ -150,6 +157,7 @@ TCBaseDesc* TCDescConfPsiATSC::NewDescriptor(int tag, const unsigned char* data,
 TCBaseDesc* TCDescConfPsiKR::NewDescriptor(int tag, const unsigned char* data, unsigned int pds)
 {
     switch (tag) {
+    case 0x37: return new TCDescATSCLinakge();
     case 0x38: return new TCDescStereoScopicSyncronization();
     default: return TCDescConfPsiATSC::NewDescriptor(tag, data, pds);
     }

@@ -6,6 +6,7 @@
 #include <zum-platform/Binder.h>
 
 #include "../dvb/DescContent.h"
+#include "../dvb/DescCRID.h"
 #include "../dvb/DescLinkage.h"
 #include "../operators/DescDishTVGenre.h"
 
@@ -208,12 +209,15 @@ bool TCDescriptorDVB::t_CheckAddingDesc(int tag, const unsigned char* data, unsi
     return true;
 }
 
-bool TCDescriptorDVB::t_SetPDSOnCRIDDescriptor(TCBaseDesc* desc, unsigned int /*pds*/)
+bool TCDescriptorDVB::t_SetPDSOnCRIDDescriptor(TCBaseDesc* desc, unsigned int pds)
 {
     if (desc->Tag() != 0x76)
         return true;
-    // No class of tag 0x76 decodes yet, so the cast to the content identifier fails.
-    return false;
+    TCDescCRID* crid = dynamic_cast<TCDescCRID*>(desc);
+    if (!crid)
+        return false;
+    crid->SetPDSD(pds);
+    return true;
 }
 
 bool TCDescriptorDVB::t_checkContentDescriptor(TCBaseDesc* desc, unsigned int pds)

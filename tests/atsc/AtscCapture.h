@@ -1,8 +1,9 @@
 #ifndef ZUM_TESTS_ATSC_ATSCCAPTURE_H
 #define ZUM_TESTS_ATSC_ATSCCAPTURE_H
 
-// The sections of one table id in the ATSC capture of sections back to back
-// (KULX, MGT, TVCT and STT); empty when the captures are not beside the project.
+// The sections of one table id in an ATSC capture of sections back to back
+// (by default KULX's MGT, TVCT and STT); empty when the captures are not
+// beside the project.
 
 #include <fstream>
 #include <iterator>
@@ -13,10 +14,10 @@
 
 namespace atsctest {
 
-inline std::vector<zumtest::Bytes> CaptureSections(unsigned tableId)
+inline std::vector<zumtest::Bytes> CaptureSections(unsigned tableId,
+                                                  const char* name = "tsduck_tsduck-test__ref_test-040.tstables.bin")
 {
-    std::ifstream in(std::string(ZUM_CAPTURES_DIR) + "/tsduck_tsduck-test__ref_test-040.tstables.bin",
-                     std::ios::binary);
+    std::ifstream in(std::string(ZUM_CAPTURES_DIR) + "/" + name, std::ios::binary);
     const zumtest::Bytes file((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
     std::vector<zumtest::Bytes> sections;
     for (size_t at = 0; at + 3 <= file.size();) {

@@ -120,7 +120,7 @@ TEST(DescExtension, TagFollowsTheExtensionByte)
     EXPECT_EQ(TCDescExtension::ProcessExtensionDescriptor(nullptr, 0), nullptr);
     // The byte behind a zero-length extension belongs to the next descriptor (0x04 would pick a class).
     struct Case { Bytes raw; int tag; } cases[] = {
-        {Desc(0x7F, {}), -1}, {Bytes{0x7F, 0x00, 0x04}, -1}, {Desc(0x7F, {0x08}), 0x7F08},
+        {Desc(0x7F, {}), -1}, {Bytes{0x7F, 0x00, 0x04}, -1}, {Desc(0x7F, {0x0B}), 0x7F0B},
         {Desc(0x7F, {0xA3, 1, 2}), 0x7FA3}, {Desc(0x7F, {0xFF}), 0x7FFF}};
     for (const Case& c : cases) {
         SCOPED_TRACE(c.tag);

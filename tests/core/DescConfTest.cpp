@@ -72,7 +72,7 @@ TEST(DescConf, FallbacksByFactoryAndTag)
         {"ATSC PMT has no extension row", kPsiATSC, 0x7F, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
         {"KR PMT", kPsiKR, 0x42, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
         {"AIT tag without a class", kDS, 0x03, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
-        {"PSIP", kPSIP, 0xA2, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
+        {"PSIP", kPSIP, 0xA3, 0, 0, ECOUNTRY_NONE, kBinder, "default"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);

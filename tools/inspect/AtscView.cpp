@@ -12,6 +12,7 @@
 #include "atsc/VCTParser.h"
 #include "inspect/Describers.h"
 #include "inspect/OobView.h"
+#include "inspect/PsipView.h"
 #include "inspect/Renderers.h"
 #include "inspect/TsDemux.h"
 
@@ -68,20 +69,13 @@ std::string Utf16BytesToUtf8(const unsigned char* data, size_t size)
     return Utf16ToUtf8(units);
 }
 
-std::string ShortName(const TCVCTChannel& channel)
-{
-    std::string name = Utf16BytesToUtf8(channel.ShortName(), TCVCTChannel::kShortNameBytes);
-    const size_t end = name.find_last_not_of(std::string(" \0", 2));
-    return end == std::string::npos ? std::string() : name.substr(0, end + 1);
-}
-
 Json Channel(const TCVCTChannel& c, const TextDecoder& text)
 {
     std::optional<std::string> name;
     if (const auto* d = dynamic_cast<const TCDescExtendedChannelName*>(c.Descriptor(kTagExtendedChannelName, 0)))
         if (d->ExtendedChannelNameString() != nullptr)
             name = RenderMultipleString(*d->ExtendedChannelNameString());
-    const std::string shortName = ShortName(c);
+    const std::string shortName = ChannelShortName(c);
     const std::string number = std::to_string(c.MajorChannelNumber()) + "." + std::to_string(c.MinorChannelNumber());
     return {{"channel", number + " " + name.value_or(shortName)},
             {"major", c.MajorChannelNumber()},
@@ -142,29 +136,25 @@ Json StringStructure(const TCMultipleStringStruct& mss)
     return {{"text", rendered ? Json(*rendered) : Json(nullptr)}, {"strings", strings}};
 }
 
-// The parser in `slot`, made and initialized on first use.
-template <class Parser, class Slot>
-TCSectionParser* Made(std::unique_ptr<Slot>& slot, const ZUMHandle& handle)
-{
-    if (!slot) {
-        slot.reset(new Parser(handle));
-        slot->Initialize();
-    }
-    return slot.get();
-}
-
 } // namespace
+
+std::string ChannelShortName(const TCVCTChannel& channel)
+{
+    std::string name = Utf16BytesToUtf8(channel.ShortName(), TCVCTChannel::kShortNameBytes);
+    const size_t end = name.find_last_not_of(std::string(" \0", 2));
+    return end == std::string::npos ? std::string() : name.substr(0, end + 1);
+}
 
 // ---- routing ----------------------------------------------------------------
 
 AtscTables::AtscTables(const ZUMHandle& handle)
-    : m_handle(handle), m_enabled(IsAtscCountry(handle)), m_oob(new OobTables(handle))
+    : m_handle(handle), m_enabled(IsAtscCountry(handle)), m_oob(new OobTables(handle)), m_psip(new PsipTables(handle))
 {
 }
 
 bool AtscTables::Wants(uint16_t pid) const
 {
-    return m_enabled && (pid == kPidAtscBase || OobTables::Wants(pid));
+    return m_enabled && (pid == kPidAtscBase || OobTables::Wants(pid) || m_psip->Wants(pid));
 }
 
 AtscTables::~AtscTables() = default;
@@ -187,10 +177,12 @@ TCSectionParser* AtscTables::Parser(uint16_t pid, uint8_t tableId)
         return nullptr;
     if (TCSectionParser* oob = m_oob->Parser(pid, tableId))
         return oob;
+    if (TCSectionParser* psip = m_psip->Parser(pid, tableId))
+        return psip;
     switch (m_KindOf(pid, tableId)) {
-    case Kind::Mgt: return Made<TCMGTParser>(m_mgt, m_handle);
-    case Kind::Tvct: Made<TCTVCTParser>(m_tvct, m_handle); break;
-    case Kind::Cvct: Made<TCCVCTParser>(m_cvct, m_handle); break;
+    case Kind::Mgt: return MadeParser<TCMGTParser>(m_mgt, m_handle);
+    case Kind::Tvct: MadeParser<TCTVCTParser>(m_tvct, m_handle); break;
+    case Kind::Cvct: MadeParser<TCCVCTParser>(m_cvct, m_handle); break;
     case Kind::None: return nullptr;
     }
     // A VCT made after the MGT came learns its version too.
@@ -200,8 +192,11 @@ TCSectionParser* AtscTables::Parser(uint16_t pid, uint8_t tableId)
 
 void AtscTables::Parsed(uint16_t pid, uint8_t tableId)
 {
-    if (m_KindOf(pid, tableId) == Kind::Mgt)
+    if (m_KindOf(pid, tableId) == Kind::Mgt) {
         m_HandMgtVersions();
+        if (m_mgt)
+            m_psip->Learn(*m_mgt);
+    }
 }
 
 void AtscTables::m_HandMgtVersions()
@@ -225,6 +220,9 @@ std::string AtscTables::ParserName(uint16_t pid, uint8_t tableId) const
     const std::string oob = m_oob->ParserName(pid, tableId);
     if (!oob.empty())
         return oob;
+    const std::string psip = m_psip->ParserName(pid, tableId);
+    if (!psip.empty())
+        return psip;
     switch (m_KindOf(pid, tableId)) {
     case Kind::Mgt: return "TCMGTParser";
     case Kind::Tvct: return "TCTVCTParser";
@@ -240,6 +238,8 @@ std::optional<bool> AtscTables::Complete(uint16_t pid, uint8_t tableId) const
         return std::nullopt;
     if (const std::optional<bool> oob = m_oob->Complete(pid, tableId))
         return oob;
+    if (const std::optional<bool> psip = m_psip->Complete(pid, tableId))
+        return psip;
     switch (m_KindOf(pid, tableId)) {
     case Kind::Mgt: return m_mgt && m_mgt->IsValid();
     case Kind::Tvct: return m_tvct && m_tvct->IsRecv();
@@ -288,7 +288,8 @@ Json DescribeAtsc(const AtscTables& tables, const TextDecoder& text)
     }
     return {{"mgt", tables.Mgt() ? Mgt(*tables.Mgt(), text) : Json(nullptr)},
             {"vcts", vcts},
-            {"oob", DescribeOob(tables.Oob(), text)}};
+            {"oob", DescribeOob(tables.Oob(), text)},
+            {"psip", DescribePsip(tables.Psip(), tables.Vct(kTidTvct), tables.Vct(kTidCvct), text)}};
 }
 
 std::optional<Json> DescribeAtscDescriptor(const TCBaseDesc& desc)
@@ -306,7 +307,7 @@ std::optional<Json> DescribeAtscDescriptor(const TCBaseDesc& desc)
                                 {"language", CodeText(d->ISO639LanguageCode(i))}});
         return Json{{"pcrPid", d->PCRPID()}, {"elements", elements}};
     }
-    return std::nullopt;
+    return DescribePsipDescriptor(desc);
 }
 
 void RenderAtscTree(const Json& atsc, std::ostream& out)
@@ -346,6 +347,7 @@ void RenderAtscTree(const Json& atsc, std::ostream& out)
         }
     }
     RenderOobTree(atsc["oob"], out);
+    RenderPsipTree(atsc["psip"], out);
 }
 
 } // namespace zuminspect

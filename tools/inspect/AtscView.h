@@ -14,7 +14,7 @@
 //                            "modulation", "carrierFrequency", "channelTsid", "programNumber", "etmLocation",
 //                            "accessControlled", "hidden", "pathSelect", "hideGuide", "serviceType",
 //                            "sourceId", "descriptors": [D]}]}],
-//    "oob": the out-of-band tables (OobView.h)}
+//    "oob": the out-of-band tables (OobView.h), "psip": the guide, time, ratings and alerts (PsipView.h)}
 
 #include <cstdint>
 #include <memory>
@@ -32,10 +32,12 @@ class TCSectionParser;
 class TCMGTParser;
 class TCVCTParser;
 class TCMultipleStringStruct;
+class TCVCTChannel;
 
 namespace zuminspect {
 
 class OobTables;
+class PsipTables;
 
 constexpr uint16_t kPidAtscBase = 0x1FFB;
 
@@ -60,6 +62,7 @@ public:
     const TCMGTParser* Mgt() const { return m_mgt.get(); }
     const TCVCTParser* Vct(uint8_t tableId) const;
     const OobTables& Oob() const { return *m_oob; }
+    const PsipTables& Psip() const { return *m_psip; }
 
 private:
     enum class Kind { None, Mgt, Tvct, Cvct };
@@ -72,7 +75,22 @@ private:
     std::unique_ptr<TCVCTParser> m_tvct;
     std::unique_ptr<TCVCTParser> m_cvct;
     std::unique_ptr<OobTables> m_oob;
+    std::unique_ptr<PsipTables> m_psip;
 };
+
+// The short name of a virtual channel, blanks behind it cut ("KULX-HD").
+std::string ChannelShortName(const TCVCTChannel& channel);
+
+// The parser in `slot`, made and initialized on first use.
+template <class Parser, class Slot>
+TCSectionParser* MadeParser(std::unique_ptr<Slot>& slot, const ZUMHandle& handle)
+{
+    if (!slot) {
+        slot.reset(new Parser(handle));
+        slot->Initialize();
+    }
+    return slot.get();
+}
 
 // A multiple string structure as the binder's viewer reads it, in UTF-8;
 // nullopt when no string renders.

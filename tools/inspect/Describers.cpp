@@ -55,6 +55,7 @@
 #include "inspect/TkgsView.h"
 #include "inspect/FreesatView.h"
 #include "inspect/IsdbEventView.h"
+#include "inspect/TargetingView.h"
 #include "isdb/DescEmergencyInformation.h"
 #include "operators/DescLogicalChannel.h"
 #include "inspect/OperatorTablesView.h"
@@ -645,6 +646,8 @@ Json DescribeDescriptor(const TCBaseDesc& desc, const TextDecoder& text)
         out["fields"] = av;
     else if (!(freesat = DescribeFreesat(desc, text)).is_null())
         out["fields"] = freesat;
+    else if (Json targeting = DescribeTargeting(desc, text); !targeting.is_null())
+        out["fields"] = targeting;
     else if (Json isdb = DescribeIsdbEventDescriptor(desc, text); !isdb.is_null())
         out["fields"] = isdb;
     else if (Json isdbNet = DescribeIsdbNetDescriptor(desc, text); !isdbNet.is_null())

@@ -26,6 +26,7 @@
 #include "inspect/SitView.h"
 #include "inspect/OperatorsView.h"
 #include "inspect/FreesatView.h"
+#include "inspect/TargetingView.h"
 #include "inspect/TableIds.h"
 #include "inspect/TkgsView.h"
 #include "inspect/TsDemux.h"
@@ -434,6 +435,7 @@ Json BuildModel(const Router& router, const DemuxStats& stats, const ModelContex
             {"sit", DescribeSit(router.Sit(), b.text)},
             {"ait", AitModel(router, b.text)},
             {"sgt", DescribeSgt(router.Sgt(), b.text)},
+            {"rct", DescribeRct(router.Rct(), b.text)},
             {"tkgs", TkgsModel(router, b.text)},
             {"atsc", DescribeAtsc(router.Atsc(), b.text)},
             {"freesatPostCodes", FreesatPostCodes(router.FSatPostCodes())},

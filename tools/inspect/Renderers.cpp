@@ -13,6 +13,7 @@
 #include "inspect/Format.h"
 #include "inspect/OperatorsView.h"
 #include "inspect/FreesatView.h"
+#include "inspect/TargetingView.h"
 #include "inspect/Text.h"
 #include "inspect/TkgsView.h"
 
@@ -335,6 +336,7 @@ void RenderTree(const Json& model, std::ostream& out)
     tree.Sit(part("sit"));
     RenderAitTree(part("ait"), out);
     RenderSgtTree(part("sgt"), out);
+    RenderRctTree(part("rct"), out);
     RenderTkgsTree(part("tkgs"), out);
     RenderAtscTree(part("atsc"), out);
     RenderFastScanTree(part("fastScan"), out);

@@ -11,6 +11,7 @@
 #include "dvb/DVBNITParser.h"
 #include "dvb/DVBSDTParser.h"
 #include "dvb/DVBSGTParser.h"
+#include "dvb/DVBRCTParser.h"
 #include "dvb/DVBTDTParser.h"
 #include "dvb/DVBTOTParser.h"
 #include "dvb/DVBTKGSParser.h"
@@ -39,6 +40,8 @@ constexpr uint8_t kTidSit = 0xD5;
 constexpr uint8_t kTidAit = 0x74;
 constexpr int kTagApplicationSignalling = 0x6F;
 constexpr uint8_t kTidSgt = 0x91;
+constexpr uint8_t kTidRct = 0x76;
+constexpr int kTagRelatedContent = 0x74;
 constexpr uint8_t kTidTkgs = 0xA7;
 constexpr int kTagTkgsComponent = 0x98;
 constexpr uint8_t kTidFSatPostCode = 0xD2;
@@ -118,6 +121,8 @@ Router::Kind Router::m_KindOf(uint16_t pid, uint8_t tableId) const
         return Kind::Sit;
     if (tableId == kTidAit && (any || m_aitPids.count(pid) > 0))
         return Kind::Ait;
+    if (tableId == kTidRct && (any || m_rctPids.count(pid) > 0))
+        return Kind::Rct;
     // TKGS comes on the stream whose PMT entry carries the TKGS component.
     if (tableId == kTidTkgs && (any || m_allPids || m_tkgsPids.count(pid) > 0))
         return Kind::Tkgs;
@@ -173,6 +178,7 @@ TCSectionParser* Router::m_Parser(Kind kind, uint8_t tableId)
     case Kind::Bat: return Lazy(m_bat, m_handle);
     case Kind::Cat: return Lazy(m_cat, m_handle);
     case Kind::Sgt: return Lazy(m_sgt, m_handle);
+    case Kind::Rct: return Lazy(m_rct, m_handle);
     case Kind::FSatPostCode: return Lazy(m_fsatPostCodes, m_handle);
     case Kind::None: break;
     }
@@ -241,6 +247,8 @@ void Router::m_LearnPrivateSectionPids()
             if (stream->StreamType() == kStreamTypePrivateSections &&
                 stream->NumOfDescriptors(kTagApplicationSignalling) > 0)
                 m_aitPids.insert(static_cast<uint16_t>(stream->ElementaryPID() & 0x1FFF));
+            if (stream->StreamType() == kStreamTypePrivateSections && stream->NumOfDescriptors(kTagRelatedContent) > 0)
+                m_rctPids.insert(static_cast<uint16_t>(stream->ElementaryPID() & 0x1FFF));
         }
     }
 }
@@ -290,6 +298,7 @@ std::string Router::ParserName(uint16_t pid, uint8_t tableId) const
     case Kind::Bat: return "TCDVBBATParser";
     case Kind::Cat: return "TCDVBCATParser";
     case Kind::Sgt: return "TCDVBSGTParser";
+    case Kind::Rct: return "TCDVBRCTParser";
     case Kind::FSatPostCode: return "TCDVBFSatPostCodeParser";
     case Kind::None: break;
     }
@@ -358,6 +367,12 @@ std::optional<bool> Router::Complete(uint16_t pid, uint8_t tableId) const
     }
     case Kind::Cat: return m_cat && m_cat->IsValid();
     case Kind::Sgt: return m_sgt && m_sgt->AllSubtablesReceived();
+    case Kind::Rct: {
+        std::list<const TCDVBRCTInstance*> instances;
+        for (int i = 0; m_rct && i < m_rct->NumOfRCTInstance(); ++i)
+            instances.push_back(m_rct->RCTInstanceOfIndex(static_cast<unsigned>(i)));
+        return AllValid(instances, [](const TCDVBRCTInstance* p) { return p->IsValid(); });
+    }
     case Kind::FSatPostCode: return m_fsatPostCodes && m_fsatPostCodes->IsValid();
     case Kind::None: break;
     }

@@ -39,6 +39,7 @@ class TCEWSParser;
 class TCSITParser;
 class TCAITParser;
 class TCDVBSGTParser;
+class TCDVBRCTParser;
 class TCDVBTKGSParser;
 class TCDVBBATParser;
 class TCDVBCATParser;
@@ -109,6 +110,8 @@ public:
     const std::map<uint16_t, std::unique_ptr<TCAITParser>>& Aits() const { return m_aits; }
 
     const TCDVBSGTParser* Sgt() const { return m_sgt.get(); }
+    // The related content tables, from the streams that a PMT marks with a related content descriptor.
+    const TCDVBRCTParser* Rct() const { return m_rct.get(); }
     // One TKGS table per PID that a PMT announces with a TKGS component.
     const std::map<uint16_t, std::unique_ptr<TCDVBTKGSParser>>& Tkgs() const { return m_tkgs; }
     // The PSIP tables on the base PID, with an ATSC country.
@@ -120,7 +123,7 @@ public:
     const OperatorTables& Operators() const { return *m_operators; }
 
 private:
-    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit, Bat, Cat, Ait, Sgt, Tkgs, FSatPostCode };
+    enum class Kind { None, Pat, Pmt, Nit, Sdt, Eit, Tdt, Tot, Lcn, Ews, Sit, Bat, Cat, Ait, Sgt, Tkgs, FSatPostCode, Rct };
 
     Kind m_KindOf(uint16_t pid, uint8_t tableId) const;
     // As above, deciding a shared table id of a file of sections by country and section shape.
@@ -158,6 +161,8 @@ private:
     std::set<uint16_t> m_aitPids;
     std::map<uint16_t, std::unique_ptr<TCAITParser>> m_aits;
     std::unique_ptr<TCDVBSGTParser> m_sgt;
+    std::set<uint16_t> m_rctPids;
+    std::unique_ptr<TCDVBRCTParser> m_rct;
     std::set<uint16_t> m_tkgsPids;
     std::map<uint16_t, std::unique_ptr<TCDVBTKGSParser>> m_tkgs;
     uint16_t m_sectionPid = 0; // the PID of the section in hand
