@@ -9,13 +9,7 @@
 #include <cstring>
 #include <memory>
 
-#include <zum-platform/PlatformConfig.h>
-
 namespace zumfuzz {
-
-// The library's lines would fill gigabytes in a long run: the fuzzer's own
-// report is what counts. Set once when the target loads.
-inline const bool kLogSilenced = (zum_platform::SetLogThreshold(zum_platform::kLogSilent), true);
 
 struct ExactSection {
     std::unique_ptr<uint8_t[]> bytes;

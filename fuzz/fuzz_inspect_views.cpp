@@ -1,6 +1,9 @@
 // The inspector from input to text over arbitrary bytes: demultiplexer,
-// parsers, model with its names, the filters and views, and both renderings,
-// under the country of each broadcast system.
+// router, parsers, model with its names, the filters and views, and both
+// renderings, for each receiver a country and operator make: DVB, ATSC, ISDB
+// in Japan and Brazil, TKGS in Turkey, Korea, Freesat and Astra. So tables
+// meet as in a receiver: the PAT names the PMTs, the MGT the PSIP PIDs, a PMT
+// the TKGS, AIT and private-section streams.
 
 #include <cstddef>
 #include <cstdint>
@@ -17,9 +20,17 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     if (size < 2)
         return 0;
-    static const char* const kCountries[] = {"GBR", "USA", "JPN", "BRA"};
+    struct Receiver {
+        const char* country;
+        unsigned int privateDataSpecifier;
+    };
+    static const Receiver kReceivers[] = {{"GBR", 0}, {"USA", 0}, {"JPN", 0}, {"BRA", 0},
+                                          {"TUR", 0}, {"KOR", 0}, {"GBR", 0x46534154}, {"DEU", 1}};
+    // Bits 0, 1 and 3 pick the receiver, bit 2 collects every PID.
+    const Receiver& receiver = kReceivers[(data[0] & 3) | ((data[0] & 8) >> 1)];
     zuminspect::InspectSettings settings;
-    settings.country = kCountries[data[0] & 3];
+    settings.country = receiver.country;
+    settings.privateDataSpecifier = receiver.privateDataSpecifier;
     settings.allPids = (data[0] & 4) != 0;
     zum_platform::SetBinder(zuminspect::BinderSettingsFor(settings));
     const uint8_t selector = data[1];
