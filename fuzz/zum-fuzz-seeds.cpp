@@ -304,8 +304,8 @@ void SeedStream(Writer& out, const Row& row, const Seed& seed, const Input& inpu
     for (size_t first = 0; first < units.size() && windows < kMaxWindows; ++windows) {
         Bytes input = seed.prefix;
         size_t next = first;
-        while (next < units.size() && input.size() + units[next].size() <= kMaxInput)
-            input.insert(input.end(), units[next].begin(), units[next++].end());
+        for (; next < units.size() && input.size() + units[next].size() <= kMaxInput; ++next)
+            input.insert(input.end(), units[next].begin(), units[next].end());
         out.Add(row.target, input);
         const size_t stride = std::max<size_t>(next - first, units.size() / kMaxWindows);
         first += std::max<size_t>(stride, 1);

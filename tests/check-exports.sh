@@ -47,6 +47,8 @@ for i in "${!syms[@]}"; do
         continue
     elif [[ $type =~ ^[WVu]$ && ${syms[$i]} =~ ^_ZT[IS] && $scope == "?"* ]]; then
         continue  # typeinfo of a pointer, reference or function type, made by -fsanitize
+    elif [[ ${syms[$i]} =~ ^__(start|stop)___sancov_ ]]; then
+        continue  # bounds of the coverage sections of an instrumented (fuzzing) build
     fi
     echo "exported but not part of the boundary: $plain"
     bad=1

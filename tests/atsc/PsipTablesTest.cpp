@@ -57,7 +57,7 @@ std::vector<Bytes> TsSections(const std::string& file, unsigned pid)
     Bytes pending;
     for (size_t at = 0; at + 188 <= ts.size(); at += 188) {
         const uint8_t* p = &ts[at];
-        if (p[0] != 0x47 || (((p[1] & 0x1F) << 8) | p[2]) != pid || !(p[3] & 0x10))
+        if (p[0] != 0x47 || static_cast<unsigned>(((p[1] & 0x1F) << 8) | p[2]) != pid || !(p[3] & 0x10))
             continue;
         size_t payload = 4 + ((p[3] & 0x20) ? 1 + p[4] : 0);
         if (p[1] & 0x40) {

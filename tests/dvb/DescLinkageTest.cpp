@@ -296,7 +296,8 @@ TEST(DescLinkage, FactoryRows)
         const Bytes bytes = Desc(static_cast<unsigned>(c.tag), {});
         std::unique_ptr<TCBaseDesc> d(c.factory->NewDescriptor(c.tag, bytes.data(), 0));
         ASSERT_NE(d, nullptr);
-        EXPECT_EQ(typeid(*d), c.type) << c.tag;
+        const TCBaseDesc& made = *d;
+        EXPECT_EQ(typeid(made), c.type) << c.tag;
     }
 }
 
