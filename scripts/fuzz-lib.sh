@@ -37,8 +37,11 @@ fuzz_seeds() {
   for target in $(fuzz_targets); do
     mkdir -p "$out/$target" "$raw/$target"
     grep -q "^$target " "$ZUM_ROOT/fuzz/targets.txt" || echo "$target: no line in fuzz/targets.txt, committed seeds only"
+    # A target may have no committed seeds yet: libFuzzer refuses a missing folder.
+    local committed=()
+    [ -d "$ZUM_ROOT/fuzz/corpus/$target" ] && committed=("$ZUM_ROOT/fuzz/corpus/$target")
     "$build/fuzz/$target" -merge=1 -max_len=$ZUM_FUZZ_MAX_LEN "$out/$target" \
-      "$ZUM_ROOT/fuzz/corpus/$target" "$raw/$target" >"$raw/$target.log" 2>&1 || {
+      "${committed[@]}" "$raw/$target" >"$raw/$target.log" 2>&1 || {
       cat "$raw/$target.log"; rm -rf "$raw"; return 1; }
     echo "$target: $(ls "$out/$target" | wc -l) seeds of $(ls "$raw/$target" | wc -l) from streams" \
       "and $(ls "$ZUM_ROOT/fuzz/corpus/$target" 2>/dev/null | wc -l) committed"
