@@ -1,5 +1,7 @@
 #include "SVCTParserDCM.h"
 
+#include <algorithm>
+
 #include "../core/ByteReader.h"
 #include "../core/Diagnostics.h"
 
@@ -33,11 +35,14 @@ int TCSVCTParserDCM::t_Parse(const unsigned char* data, int* status)
     // A data byte behind the section's end is not read.
     if (length > t_size - 3)
         length = t_size - 3;
-    for (int i = 0; i < length; ++i) {
+    // Virtual channel numbers have 12 bits: a run past them names no channel,
+    // and hostile counts could otherwise grow the map by a hundred thousand.
+    constexpr int kChannelEnd = 0x1000;
+    for (int i = 0; i < length && channel < kChannelEnd; ++i) {
         const bool defined = (data[3 + i] & 0x80) != 0;
         const int count = data[3 + i] & 0x7F;
         if (defined) {
-            for (int c = channel; c < channel + count; ++c) {
+            for (int c = channel; c < std::min(channel + count, kChannelEnd); ++c) {
                 if (!m_cycle.emplace(c, c).second)
                     ++m_repeatCount;
             }

@@ -270,6 +270,14 @@ TEST(SVCTParserDCM, CycleEndsWhenEveryChannelCameAgain)
     dcm.Parse(b, &status, 4);
     EXPECT_EQ(status, 2);
     EXPECT_EQ(dcm.ChannelCount(), 0);
+    // From channel 4094 a run of 127: only 4094 and 4095 are channels.
+    const unsigned char c[] = {0xFF, 0xFE, 0x02, 0xFF, 0x81};
+    TCSVCTParserDCM high;
+    status = 0;
+    high.Parse(c, &status, 5);
+    high.Parse(c, &status, 5);
+    EXPECT_EQ(status, 1);
+    EXPECT_EQ(high.ChannelCount(), 2);
 }
 
 TEST(OOBSectionParser, OnlyOutOfBandTablesKeepRecords)
