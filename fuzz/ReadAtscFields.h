@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "FuzzCast.h"
 #include "atsc/DescATSCLinakge.h"
 #include "atsc/DescCaptionService.h"
 #include "atsc/DescComponentList.h"
@@ -19,7 +20,7 @@ namespace fuzzfields {
 
 inline void ReadAtsc(TCBaseDesc* desc, volatile unsigned int& sink)
 {
-    if (auto* d = dynamic_cast<TCDescContentAdvisory*>(desc)) {
+    if (auto* d = zumfuzz::As<TCDescContentAdvisory>(desc)) {
         for (int i = -1; i <= d->RatingRegionCount(); ++i) {
             sink = sink + d->RatingRegion(i) + d->RatingDescLength(i) + (d->GetRatingDescText(i) != nullptr);
             for (int j = -1; j <= d->RatingDemensions(i); ++j)
@@ -35,13 +36,13 @@ inline void ReadAtsc(TCBaseDesc* desc, volatile unsigned int& sink)
             std::unique_ptr<TCBaseDesc> fork(strings.Fork());
         }
     }
-    if (auto* d = dynamic_cast<TCDescCaptionService*>(desc))
+    if (auto* d = zumfuzz::As<TCDescCaptionService>(desc))
         for (unsigned i = 0; d->NumberOfServices() && i <= d->NumberOfServices(); ++i) {
             const auto k = static_cast<unsigned char>(i);
             sink = sink + d->Language(k) + d->CcType(k) + d->Line21Field(k) + d->CaptionServiceNumber(k) +
                    d->EasyReader(k) + d->WideAspectRatio(k) + d->KoreanCode(k);
         }
-    if (auto* d = dynamic_cast<TCDescComponentList*>(desc))
+    if (auto* d = zumfuzz::As<TCDescComponentList>(desc))
         for (int i = -1; i <= d->NumberOfComponet(); ++i) {
             TCDescComponentList::TTDescComponetList c;
             d->GetComponentList(i, c);
@@ -51,16 +52,16 @@ inline void ReadAtsc(TCBaseDesc* desc, volatile unsigned int& sink)
             d->GetStreamInfoDetailForAVC(i, &avc);
             sink = sink + static_cast<unsigned>(c.detail.size()) + s3d.verticalUpsamplingFactor + avc.value3;
         }
-    if (auto* d = dynamic_cast<TCDescTimeShiftedService*>(desc))
+    if (auto* d = zumfuzz::As<TCDescTimeShiftedService>(desc))
         for (int i = -1; i <= d->NumOfServices(); ++i)
             sink = sink + static_cast<unsigned>(d->TimeShift(i) + d->MajorChannelNumber(i) + d->MinorChannelNumber(i));
-    if (auto* d = dynamic_cast<TCDescInBandExceptionChannels*>(desc))
+    if (auto* d = zumfuzz::As<TCDescInBandExceptionChannels>(desc))
         for (int i = -1; i <= d->ExceptionChannelCount(); ++i)
             sink = sink + static_cast<unsigned>(d->ExceptionRFChannel(i) + d->ExceptionProgramNumber(i));
-    if (auto* d = dynamic_cast<TCDescDaylightSavingTime*>(desc))
+    if (auto* d = zumfuzz::As<TCDescDaylightSavingTime>(desc))
         if (d->Length() > 2)
             sink = sink + static_cast<unsigned>(d->DSStatus() + d->DSDayOfMonth() + d->DSHour());
-    if (auto* d = dynamic_cast<TCDescATSCLinakge*>(desc)) {
+    if (auto* d = zumfuzz::As<TCDescATSCLinakge>(desc)) {
         char buffer[256];
         for (int capacity : {0, 3, 256}) {
             int length = capacity;
@@ -69,7 +70,7 @@ inline void ReadAtsc(TCBaseDesc* desc, volatile unsigned int& sink)
             sink = sink + d->GetProgramCode(buffer, &length);
         }
     }
-    if (auto* d = dynamic_cast<TCDescATSCPrivateInformation*>(desc)) {
+    if (auto* d = zumfuzz::As<TCDescATSCPrivateInformation>(desc)) {
         TCDescATSCPrivateInformation::TTPrivateInfoDetail detail;
         for (int i = -1; i <= static_cast<int>(d->NumOfPrivateInfoDetail()); ++i)
             d->GetPrivateInfoDetail(i, detail);

@@ -12,6 +12,7 @@
 #include <set>
 #include <vector>
 
+#include "FuzzCast.h"
 #include "ReadAtscFields.h"
 #include "ReadAvFields.h"
 #include "av/DescAC4.h"
@@ -112,27 +113,27 @@ inline void Read(TCBaseDesc* desc)
 {
     ReadApp(desc);
     targetfields::Read(desc);
-    if (auto* d = dynamic_cast<TCDescAC4*>(desc))
+    if (auto* d = zumfuzz::As<TCDescAC4>(desc))
         ReadAC4(*d);
-    if (auto* d = dynamic_cast<TCDescAPD*>(desc))
+    if (auto* d = zumfuzz::As<TCDescAPD>(desc))
         ReadAPD(*d);
-    if (auto* d = dynamic_cast<TCDescNetworkName*>(desc))
+    if (auto* d = zumfuzz::As<TCDescNetworkName>(desc))
         Text<unsigned char, unsigned short>(*d, &TCDescNetworkName::NetworkNameText);
-    if (auto* d = dynamic_cast<TCDescBouquetName*>(desc))
+    if (auto* d = zumfuzz::As<TCDescBouquetName>(desc))
         Text<unsigned char, unsigned short>(*d, &TCDescBouquetName::BouquetNameText);
-    if (auto* d = dynamic_cast<TCDescService*>(desc)) {
+    if (auto* d = zumfuzz::As<TCDescService>(desc)) {
         unsigned char buffer[256];
         unsigned short size = sizeof buffer;
         Take(d->ServiceNameText(buffer, size) + d->ServiceProviderNameText(buffer, size));
     }
-    if (auto* d = dynamic_cast<TCDescServiceList*>(desc))
+    if (auto* d = zumfuzz::As<TCDescServiceList>(desc))
         for (int i = -1; i <= d->NumberOfLoop(); ++i)
             Take(d->ServiceId(i) + d->ServiceType(i));
-    if (auto* d = dynamic_cast<TCDescShortEvent*>(desc)) {
+    if (auto* d = zumfuzz::As<TCDescShortEvent>(desc)) {
         Text<unsigned char, unsigned short>(*d, &TCDescShortEvent::EventNameChar);
         Text<unsigned char, unsigned short>(*d, &TCDescShortEvent::TextChar);
     }
-    if (auto* d = dynamic_cast<TCDescExtendedEvent*>(desc)) {
+    if (auto* d = zumfuzz::As<TCDescExtendedEvent>(desc)) {
         Text<unsigned char, unsigned short>(*d, &TCDescExtendedEvent::TextChar);
         for (unsigned int i = 0; i <= d->SizeOfItem(); ++i)
             if (const CitemDesc* item = d->Item(i)) {
@@ -140,9 +141,9 @@ inline void Read(TCBaseDesc* desc)
                 Text<char, int>(*item, &CitemDesc::ItemChar);
             }
     }
-    if (auto* d = dynamic_cast<TCDescComponent*>(desc))
+    if (auto* d = zumfuzz::As<TCDescComponent>(desc))
         Text<char, int>(*d, &TCDescComponent::TextChar);
-    if (auto* d = dynamic_cast<TCDescMultilingualNetworkName*>(desc)) {
+    if (auto* d = zumfuzz::As<TCDescMultilingualNetworkName>(desc)) {
         for (int i = -1; i <= d->NumOfNetworkName(); ++i)
             if (const CmultiNetworkNameDesc* n = d->NetworkNameDesc(i))
                 Text<unsigned char, unsigned short>(*n, &CmultiNetworkNameDesc::NetworkNameChar);
@@ -150,7 +151,7 @@ inline void Read(TCBaseDesc* desc)
         unsigned short size = 0;
         Take(d->GetNetworkNameByLanguage(0x656E67, name, &size));
     }
-    if (auto* d = dynamic_cast<TCDescMultilingualServiceName*>(desc)) {
+    if (auto* d = zumfuzz::As<TCDescMultilingualServiceName>(desc)) {
         unsigned char name[256];
         unsigned short size = 0;
         unsigned int language = 0;
@@ -159,43 +160,43 @@ inline void Read(TCBaseDesc* desc)
         Take(d->GetServiceNameByLanguage(0x656E67, name, &size) +
              d->GetServiceProviderNameByLanguage(0x656E67, name, &size));
     }
-    if (auto* d = dynamic_cast<TCDescMultilingualComponent*>(desc))
+    if (auto* d = zumfuzz::As<TCDescMultilingualComponent>(desc))
         for (int i = -1; i <= d->NumOfComponentText(); ++i)
             if (const CmultiComponentDesc* c = d->ComponentDesc(i))
                 Text<char, int>(*c, &CmultiComponentDesc::TextDescChar);
-    if (auto* d = dynamic_cast<TCDescContent*>(desc))
+    if (auto* d = zumfuzz::As<TCDescContent>(desc))
         for (int i = -1; i <= d->Count(); ++i)
             Take(d->ContentNibbleLevel1(i) + d->ContentNibbleLevel2(i) + d->UserNibble1(i) + d->UserNibble2(i));
-    if (auto* d = dynamic_cast<TCDescParentalRating*>(desc))
+    if (auto* d = zumfuzz::As<TCDescParentalRating>(desc))
         for (int i = -1; i <= d->Count(); ++i)
             Take(d->CountryCode(i) + d->Rating(i));
-    if (auto* d = dynamic_cast<TCDescCountryAvailability*>(desc)) {
+    if (auto* d = zumfuzz::As<TCDescCountryAvailability>(desc)) {
         std::list<ECountryCode> codes;
         Take(d->Countries(codes) + d->IsServiceAvailable(0x474252));
     }
-    if (auto* d = dynamic_cast<TCDescLanguage*>(desc)) {
+    if (auto* d = zumfuzz::As<TCDescLanguage>(desc)) {
         ELanguageCode language = 0;
         EAudioType type = AUDIO_TYPE_UNDEFINED;
         for (int i = 0; i < d->Count(); ++i)
             Take(d->Language(i, &language, &type) + language);
     }
-    if (auto* d = dynamic_cast<TCDescTeletext*>(desc))
+    if (auto* d = zumfuzz::As<TCDescTeletext>(desc))
         for (int i = -1; i <= d->Count(); ++i)
             Take(d->Iso639LangCode(i) + d->TeletextType(i) + d->TeletextMagzineNumber(i) + d->TeletextPageNumber(i));
-    if (auto* d = dynamic_cast<TCDescSubtitling*>(desc))
+    if (auto* d = zumfuzz::As<TCDescSubtitling>(desc))
         for (int i = -1; i <= d->Count(); ++i)
             Take(d->Iso639LangCode(i) + d->SubtitlingType(i) + d->CompositionPageId(i) + d->AncillaryPageId(i));
-    if (auto* d = dynamic_cast<TCDescLocalTimeOffset*>(desc))
+    if (auto* d = zumfuzz::As<TCDescLocalTimeOffset>(desc))
         for (int i = -1; i <= d->NumOfEntries(); ++i)
             Take(d->CountryCode(i) + d->TimeOfChange(i) + static_cast<unsigned int>(d->NextTimeOffset(i)));
-    if (auto* d = dynamic_cast<TCDescFrequencyList*>(desc))
+    if (auto* d = zumfuzz::As<TCDescFrequencyList>(desc))
         for (int i = -1; i <= d->NumOfEntries(); ++i)
             Take(d->CentreFrequency(i) != 0.0f);
     ReadAv(desc, g_sink);
     ReadAtsc(desc, g_sink);
-    if (auto* d = dynamic_cast<IDescLogicalChannel*>(desc))
+    if (auto* d = zumfuzz::As<IDescLogicalChannel>(desc))
         ReadLcn(*d);
-    if (auto* d = dynamic_cast<TCDescLogicalChannelV2*>(desc)) {
+    if (auto* d = zumfuzz::As<TCDescLogicalChannelV2>(desc)) {
         std::map<unsigned int, std::string> lists;
         d->GetChannelLists(lists);
         for (const auto& list : lists) {
@@ -206,7 +207,7 @@ inline void Read(TCBaseDesc* desc)
         }
     }
     ReadOperator(desc);
-    if (auto* d = dynamic_cast<TCDescTKGSMultilingualCategoryLabel*>(desc)) {
+    if (auto* d = zumfuzz::As<TCDescTKGSMultilingualCategoryLabel>(desc)) {
         std::map<ELanguageCode, std::basic_string<unsigned short>> names;
         d->GetCategoryNames(names);
         std::basic_string<unsigned short> name;
@@ -214,13 +215,13 @@ inline void Read(TCBaseDesc* desc)
             Take(d->GetCategoryName(entry.first, name) + static_cast<unsigned int>(name.size()));
         Take(d->CategoryId());
     }
-    if (auto* d = dynamic_cast<TCDescTKGSExtendedService*>(desc)) {
+    if (auto* d = zumfuzz::As<TCDescTKGSExtendedService>(desc)) {
         std::vector<unsigned int> ids;
         d->GetCategories(ids);
         for (int i = -1; i <= d->NumOfCategories(); ++i)
             Take(d->CategoryId(i));
     }
-    if (auto* d = dynamic_cast<TCDescTKGSComponent*>(desc))
+    if (auto* d = zumfuzz::As<TCDescTKGSComponent>(desc))
         Take(d->Flag() + d->Found());
     fsatfields::Read(desc);
     isdbeventfields::ReadEventFamily(desc);

@@ -7,6 +7,7 @@
 #include <list>
 #include <map>
 
+#include "FuzzCast.h"
 #include "operators/DescFSatGuidance.h"
 #include "operators/DescFSatLinkage.h"
 #include "operators/DescFSatLogicalChannel.h"
@@ -22,7 +23,7 @@ inline void Read(TCBaseDesc* desc)
 {
     unsigned char buffer[256];
     const unsigned int languages[] = {0, 0x656E67, 0xFFFFFF};
-    if (auto* d = dynamic_cast<TCDescFSatLogicalChannel*>(desc)) {
+    if (auto* d = zumfuzz::As<TCDescFSatLogicalChannel>(desc)) {
         std::list<unsigned short> regions;
         d->GetAvailableRegions(regions);
         regions.push_back(0xFFFF);
@@ -37,41 +38,41 @@ inline void Read(TCBaseDesc* desc)
         for (const _TTDescLCN* e = d->FirstAllRegions(); e; e = d->NextAllRegions())
             Take(e->channelNumber + e->freesatServiceId);
     }
-    if (auto* d = dynamic_cast<IDescGuidance*>(desc)) {
+    if (auto* d = zumfuzz::As<IDescGuidance>(desc)) {
         for (unsigned short size : {0, 3, 256}) {
             unsigned short room = size;
             Take(d->GetText(buffer, room) + room + d->Length() + d->Type() + d->LanguageCode());
         }
     }
-    if (auto* d = dynamic_cast<TCDescContentManagementBase*>(desc))
+    if (auto* d = zumfuzz::As<TCDescContentManagementBase>(desc))
         Take(d->DoNotScramble() + d->ControlRemoteAccessOverInternet() + d->DoNotApplyRevocation());
-    if (auto* d = dynamic_cast<TCDescFSatTunnelledData*>(desc)) {
+    if (auto* d = zumfuzz::As<TCDescFSatTunnelledData>(desc)) {
         unsigned int tag = 0;
         for (unsigned int type = 0; type < 256; ++type)
             Take(d->ComponentTag(type, tag) + tag + d->NumOfEntries());
     }
-    if (auto* d = dynamic_cast<TCDescFSatAltTunnelledData*>(desc))
+    if (auto* d = zumfuzz::As<TCDescFSatAltTunnelledData>(desc))
         for (unsigned int i = 0; i < d->NumOfEntries(); ++i)
             Take(d->GetDataType(i));
-    if (auto* d = dynamic_cast<TCDescFSatLinkage*>(desc)) {
+    if (auto* d = zumfuzz::As<TCDescFSatLinkage>(desc)) {
         TCDescFSatLinkage::Linkage linkage;
         for (unsigned int i = 0; i <= d->NumOfEntries(); ++i)
             Take(d->GetLinkage(i, linkage) + static_cast<unsigned int>(linkage.dataTypes.size()));
     }
-    if (auto* d = dynamic_cast<TCDescFSatInteractiveStorage*>(desc)) {
+    if (auto* d = zumfuzz::As<TCDescFSatInteractiveStorage>(desc)) {
         std::map<unsigned short, unsigned int> first, second;
         d->GetStorageAllocations(first, second);
         Take(static_cast<unsigned int>(first.size() + second.size()));
     }
-    if (auto* d = dynamic_cast<TCDescFSatInfoLocation*>(desc))
+    if (auto* d = zumfuzz::As<TCDescFSatInfoLocation>(desc))
         for (unsigned int i = 0; i < d->NumOfEntries(); ++i)
             Take(d->GetInfoLocation(i).thirdId);
-    if (auto* d = dynamic_cast<TCDescFSatInteractiveRestriction*>(desc)) {
+    if (auto* d = zumfuzz::As<TCDescFSatInteractiveRestriction>(desc)) {
         std::list<unsigned short> services;
         d->GetRestrictedServices(services);
         Take(static_cast<unsigned int>(services.size()));
     }
-    if (auto* d = dynamic_cast<TCDescFSatRegionName*>(desc)) {
+    if (auto* d = zumfuzz::As<TCDescFSatRegionName>(desc)) {
         for (unsigned int region : {0u, 1u, 0xFFFFu})
             for (unsigned int language : languages) {
                 unsigned int size = sizeof buffer;
@@ -79,12 +80,12 @@ inline void Read(TCBaseDesc* desc)
                      d->ContainsRegionID(static_cast<unsigned short>(region)));
             }
     }
-    if (auto* d = dynamic_cast<TCDescFSatServiceGroup*>(desc)) {
+    if (auto* d = zumfuzz::As<TCDescFSatServiceGroup>(desc)) {
         TCDescFSatServiceGroup::ServiceGroup group;
         for (unsigned int i = 0; i <= d->NumOfEntries(); ++i)
             Take(d->GetServiceGroup(i, group) + static_cast<unsigned int>(group.freesatIds.size()));
     }
-    if (auto* d = dynamic_cast<TCDescFSatServiceGroupName*>(desc)) {
+    if (auto* d = zumfuzz::As<TCDescFSatServiceGroupName>(desc)) {
         for (unsigned int i = 0; i <= d->NumOfEntries(); ++i)
             for (unsigned int language : languages) {
                 unsigned short groupId = 0;
@@ -94,7 +95,7 @@ inline void Read(TCBaseDesc* desc)
                      d->GroupType(i, type));
             }
     }
-    if (auto* d = dynamic_cast<TCDescFSatShortServiceName*>(desc)) {
+    if (auto* d = zumfuzz::As<TCDescFSatShortServiceName>(desc)) {
         for (unsigned int language : languages) {
             unsigned short size = sizeof buffer;
             Take(static_cast<unsigned int>(d->GetName(language, buffer, size)) + size);

@@ -6,6 +6,7 @@
 
 #include <vector>
 
+#include "FuzzCast.h"
 #include "isdb/DescAbstractService.h"
 #include "isdb/DescAudioComponent.h"
 #include "isdb/DescBoardInformation.h"
@@ -32,18 +33,18 @@ void Copies(Copy copy)
 
 inline void ReadEventFamily(const TCBaseDesc* desc)
 {
-    if (auto* d = dynamic_cast<const TCDescAudioComponent*>(desc)) {
+    if (auto* d = zumfuzz::As<const TCDescAudioComponent>(desc)) {
         Take(d->StreamContent() + d->ISO639LanguageCode() + d->ISO639LanguageCode2() + d->TextLength());
         Copies<char, int>([&](char* b, int* s) { return d->TextChar(b, s); });
     }
-    if (auto* d = dynamic_cast<const TCDescDataContent*>(desc)) {
+    if (auto* d = zumfuzz::As<const TCDescDataContent>(desc)) {
         Copies<unsigned char, int>([&](unsigned char* b, int* s) { return d->SelectorByte(b, s); });
         Copies<unsigned char, int>([&](unsigned char* b, int* s) { return d->ComponentRef(b, s); });
         Copies<char, int>([&](char* b, int* s) { return d->TextChar(b, s); });
     }
-    if (auto* d = dynamic_cast<const TCDescDataComponent*>(desc))
+    if (auto* d = zumfuzz::As<const TCDescDataComponent>(desc))
         Copies<unsigned char, int>([&](unsigned char* b, int* s) { return d->AdditionalDataCompInfo(b, s); });
-    if (auto* d = dynamic_cast<const TCDescComponentGroup*>(desc)) {
+    if (auto* d = zumfuzz::As<const TCDescComponentGroup>(desc)) {
         for (int g = -1; g <= d->NumOfGroup(); ++g) {
             const auto* group = d->Group(g);
             if (!group)
@@ -55,7 +56,7 @@ inline void ReadEventFamily(const TCBaseDesc* desc)
                         Take(unit->ComponentTag(t));
         }
     }
-    if (auto* d = dynamic_cast<const TCDescEventGroup*>(desc)) {
+    if (auto* d = zumfuzz::As<const TCDescEventGroup>(desc)) {
         for (int i = -1; i <= d->EventCount(); ++i)
             if (const auto* e = d->Group(i))
                 Take(e->serviceId + e->eventId);
@@ -66,42 +67,42 @@ inline void ReadEventFamily(const TCBaseDesc* desc)
         int size = sizeof buffer;
         Take(d->PrivateDataBytes(size, buffer) + size);
     }
-    if (auto* d = dynamic_cast<const TCDescSeries*>(desc))
+    if (auto* d = zumfuzz::As<const TCDescSeries>(desc))
         Copies<unsigned char, unsigned short>([&](unsigned char* b, unsigned short* s) { return d->GetSeriesName(b, s); });
-    if (auto* d = dynamic_cast<const TCDescDigitalCopyControl*>(desc)) {
+    if (auto* d = zumfuzz::As<const TCDescDigitalCopyControl>(desc)) {
         std::vector<TCDescDigitalCopyControl::TTCompControl> list;
         Take(d->GetComponentControlList(list) + list.size());
         TCDescDigitalCopyControl::TTCompControl entry;
         for (int i = 0; i < d->NumOfComponentControl(); ++i)
             Take(d->ComponentControl(i, entry) + entry.maximumBitrate);
     }
-    if (auto* d = dynamic_cast<const TCDescBoardInformation*>(desc)) {
+    if (auto* d = zumfuzz::As<const TCDescBoardInformation>(desc)) {
         char buffer[512];
         int size = sizeof buffer;
         Take(d->Title(size, buffer) + d->TitleLength() + d->TextLength());
         size = 3;
         Take(d->Text(size, buffer));
     }
-    if (auto* d = dynamic_cast<const TCDescAbstractService*>(desc)) {
+    if (auto* d = zumfuzz::As<const TCDescAbstractService>(desc)) {
         unsigned char buffer[256];
         int size = sizeof buffer;
         Take(d->ServiceNameByte(buffer, &size));
     }
-    if (auto* d = dynamic_cast<const TCDescPrivilegedCertificate*>(desc))
+    if (auto* d = zumfuzz::As<const TCDescPrivilegedCertificate>(desc))
         for (unsigned int i = 0; i <= d->NumOfCertificateIdentifierByte(); ++i)
             if (const unsigned char* id = d->CertificateIdentifierByte(i))
                 Take(id[0] + id[19]);
-    if (auto* d = dynamic_cast<const TCDescEPGInformation*>(desc)) {
+    if (auto* d = zumfuzz::As<const TCDescEPGInformation>(desc)) {
         Copies<unsigned char, int>([&](unsigned char* b, int* s) { return d->Genres(b, s); });
         Copies<char, int>([&](char* b, int* s) { return d->SpareEpgInfoBits(b, s); });
     }
-    if (auto* d = dynamic_cast<const TCDescScheduling*>(desc))
+    if (auto* d = zumfuzz::As<const TCDescScheduling>(desc))
         if (const unsigned char* data = d->PrivateData())
             Take(data[0] + data[d->PrivateLength() - 1]);
-    if (auto* d = dynamic_cast<const TCDescServiceAvailability*>(desc))
+    if (auto* d = zumfuzz::As<const TCDescServiceAvailability>(desc))
         for (int i = -1; i <= d->Count(); ++i)
             Take(d->CellId(i));
-    if (auto* d = dynamic_cast<const TCDescServiceIdentifier*>(desc))
+    if (auto* d = zumfuzz::As<const TCDescServiceIdentifier>(desc))
         Take(d->ServiceIdentifier().size());
 }
 

@@ -5,6 +5,7 @@
 // carousel descriptors, one index past each end, and every byte of the runs
 // they hand out, so that the sanitizers see what they touch.
 
+#include "FuzzCast.h"
 #include "isdb/DescARIBTerrestrialDeliverySystem.h"
 #include "isdb/DescCAContractInfo.h"
 #include "isdb/DescCarouselIdent.h"
@@ -35,13 +36,13 @@ void Copies(const Obj& d, Copy copy)
 
 inline void Read(const TCBaseDesc* desc)
 {
-    if (auto* d = dynamic_cast<const TCDescARIBTerrestrialDeliverySystem*>(desc))
+    if (auto* d = zumfuzz::As<const TCDescARIBTerrestrialDeliverySystem>(desc))
         for (int i = -1; i <= d->NumOfFrequency(); ++i)
             Take(d->Frequency(i) + d->AreaCode() + d->GuardInterval() + d->TransmissionMode());
-    if (auto* d = dynamic_cast<const TCDescPartialReception*>(desc))
+    if (auto* d = zumfuzz::As<const TCDescPartialReception>(desc))
         for (int i = 0; i <= d->Count(); ++i)
             Take(d->ServiceId(static_cast<unsigned char>(i)));
-    if (auto* d = dynamic_cast<const TCDescTSInformation*>(desc)) {
+    if (auto* d = zumfuzz::As<const TCDescTSInformation>(desc)) {
         Copies(*d, &TCDescTSInformation::TSNameChar);
         for (int r = 0; r <= d->TransmissionTypeCount(); ++r) {
             const auto record = static_cast<unsigned char>(r);
@@ -50,7 +51,7 @@ inline void Read(const TCBaseDesc* desc)
                 Take(d->ServiceId(record, static_cast<unsigned char>(i)));
         }
     }
-    if (auto* d = dynamic_cast<const TCDescExtendedBroadcaster*>(desc)) {
+    if (auto* d = zumfuzz::As<const TCDescExtendedBroadcaster>(desc)) {
         for (int i = -1; i <= d->NumOfAffiliationId(); ++i)
             Take(d->AffiliationId(i));
         for (int i = -1; i <= d->NumOfBroadcasterEntry(); ++i)
@@ -58,21 +59,21 @@ inline void Read(const TCBaseDesc* desc)
         Bytes(d->PrivateData(), d->PrivateDataLength());
         Bytes(d->OtherData(), d->OtherDataLength());
     }
-    if (auto* d = dynamic_cast<const TCDescSIPrimeTS*>(desc))
+    if (auto* d = zumfuzz::As<const TCDescSIPrimeTS>(desc))
         for (int i = -1; i <= d->NumOfTableDescription(); ++i)
             if (const _tagTTSIPrimeTSItem* item = d->TableDescription(i))
                 Bytes(item->table_description, item->table_description ? item->table_description_length : 0);
-    if (auto* d = dynamic_cast<const TCDescLogoTransmission*>(desc))
+    if (auto* d = zumfuzz::As<const TCDescLogoTransmission>(desc))
         Copies(*d, &TCDescLogoTransmission::LogoChar);
-    if (auto* d = dynamic_cast<const TCDescTargetRegionJPN*>(desc))
+    if (auto* d = zumfuzz::As<const TCDescTargetRegionJPN>(desc))
         Bytes(d->Bitmap(), d->BitmapLength());
-    if (auto* d = dynamic_cast<const TCDescCAContractInfo*>(desc))
+    if (auto* d = zumfuzz::As<const TCDescCAContractInfo>(desc))
         for (int i = -1; i <= 256; ++i)
             Take(d->ComponentTag(i) + d->ContractVerificationInfo(i) + d->FeeName(i));
-    if (auto* d = dynamic_cast<const TCDescCAService*>(desc))
+    if (auto* d = zumfuzz::As<const TCDescCAService>(desc))
         for (int i = -1; i <= d->Count(); ++i)
             Take(d->ServiceID(i));
-    if (auto* d = dynamic_cast<const TCDescDownloadContent*>(desc)) {
+    if (auto* d = zumfuzz::As<const TCDescDownloadContent>(desc)) {
         const TCCompatibilityDescriptor& c = d->Compatibility();
         for (int i = -1; i <= c.NumOfDescriptor(); ++i)
             if (const auto* e = c.Descriptor(i))
@@ -84,21 +85,21 @@ inline void Read(const TCBaseDesc* desc)
         Bytes(d->PrivateData(), d->PrivateData() ? d->PrivateDataLength() : 0);
         Bytes(d->Text(), d->TextLength());
     }
-    if (auto* d = dynamic_cast<const TCDescCarouselIdent*>(desc)) {
+    if (auto* d = zumfuzz::As<const TCDescCarouselIdent>(desc)) {
         Bytes(d->FormatSpecifier().ObjectKey(), d->FormatSpecifier().ObjectKeyLength());
         Bytes(d->PrivateData(), d->PrivateDataLength());
     }
-    if (auto* d = dynamic_cast<const TCDescAssociationTag*>(desc)) {
+    if (auto* d = zumfuzz::As<const TCDescAssociationTag>(desc)) {
         Bytes(d->Selector(), d->Selector() ? d->SelectorByteLength() : 0);
         Bytes(d->PrivateData(), d->PrivateDataLength());
         Take(d->TransactionId() + d->Timeout());
     }
-    if (auto* d = dynamic_cast<const TCDescDeferredAssociationTags*>(desc)) {
+    if (auto* d = zumfuzz::As<const TCDescDeferredAssociationTags>(desc)) {
         for (int i = -1; i <= d->NumOfAssociationTag(); ++i)
             Take(d->AssociationTag(i));
         Bytes(d->PrivateData(), d->PrivateDataLength());
     }
-    if (auto* d = dynamic_cast<const TCDescStreamEvent*>(desc))
+    if (auto* d = zumfuzz::As<const TCDescStreamEvent>(desc))
         Bytes(d->PrivateData(), d->PrivateDataLength());
 }
 
