@@ -1,38 +1,29 @@
 // The inspector from input to text over arbitrary bytes: demultiplexer,
 // router, parsers, model with its names, the filters and views, and both
-// renderings, for each receiver a country and operator make: DVB, ATSC, ISDB
-// in Japan and Brazil, TKGS in Turkey, Korea, Freesat and Astra. So tables
-// meet as in a receiver: the PAT names the PMTs, the MGT the PSIP PIDs, a PMT
-// the TKGS, AIT and private-section streams.
+// renderings, for each receiver of FuzzReceivers.h. The model and views cost
+// several times the parsing; fuzz_receiver runs the parsing path alone.
 
 #include <cstddef>
 #include <cstdint>
 #include <sstream>
 #include <string>
 
-#include <zum-platform/PlatformConfig.h>
-
+#include "FuzzReceivers.h"
 #include "inspect/Renderers.h"
 #include "inspect/Session.h"
 #include "inspect/Views.h"
+
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
+{
+    zumfuzz::PlainSchedule(argc, argv);
+    return 0;
+}
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     if (size < 2)
         return 0;
-    struct Receiver {
-        const char* country;
-        unsigned int privateDataSpecifier;
-    };
-    static const Receiver kReceivers[] = {{"GBR", 0}, {"USA", 0}, {"JPN", 0}, {"BRA", 0},
-                                          {"TUR", 0}, {"KOR", 0}, {"GBR", 0x46534154}, {"DEU", 1}};
-    // Bits 0, 1 and 3 pick the receiver, bit 2 collects every PID.
-    const Receiver& receiver = kReceivers[(data[0] & 3) | ((data[0] & 8) >> 1)];
-    zuminspect::InspectSettings settings;
-    settings.country = receiver.country;
-    settings.privateDataSpecifier = receiver.privateDataSpecifier;
-    settings.allPids = (data[0] & 4) != 0;
-    zum_platform::SetBinder(zuminspect::BinderSettingsFor(settings));
+    const zuminspect::InspectSettings settings = zumfuzz::ReceiverFor(data[0]);
     const uint8_t selector = data[1];
     data += 2;
     size -= 2;
