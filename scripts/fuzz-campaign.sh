@@ -12,8 +12,7 @@
 #   -c  where corpora, findings and logs are kept (default ~/.cache/zum-fuzz)
 #   -b  a clang build with -DZUM_FUZZ=ON (default build-fuzz: optimised, with
 #       AddressSanitizer and UndefinedBehaviorSanitizer, made when missing)
-#   -o  further libFuzzer options, e.g. "-entropic=0" for a target with
-#       many features, where the entropic schedule costs more than the run
+#   -o  further libFuzzer options for every target
 #   -S  no seeding: the corpora in DIR are taken as they are
 set -euo pipefail
 source "$(dirname "$0")/fuzz-lib.sh"
